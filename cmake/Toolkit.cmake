@@ -1,0 +1,16 @@
+# Two interface targets over Debian's wxWidgets 3.2:
+#   wx_basis  - wxBase only (the core, the command line front end, headless tests)
+#   wx_gui    - core, base and html (the desktop program)
+find_package(wxWidgets REQUIRED COMPONENTS base)
+add_library(wx_basis INTERFACE)
+target_include_directories(wx_basis SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
+target_compile_definitions(wx_basis INTERFACE ${wxWidgets_DEFINITIONS})
+target_compile_options(wx_basis INTERFACE ${wxWidgets_CXX_FLAGS})
+target_link_libraries(wx_basis INTERFACE ${wxWidgets_LIBRARIES})
+
+find_package(wxWidgets REQUIRED COMPONENTS core base html)
+add_library(wx_gui INTERFACE)
+target_include_directories(wx_gui SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
+target_compile_definitions(wx_gui INTERFACE ${wxWidgets_DEFINITIONS})
+target_compile_options(wx_gui INTERFACE ${wxWidgets_CXX_FLAGS})
+target_link_libraries(wx_gui INTERFACE ${wxWidgets_LIBRARIES})

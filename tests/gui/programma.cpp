@@ -1,0 +1,214 @@
+#include "programma.h"
+
+#include <wx/app.h>
+#include <wx/filename.h>
+#include <wx/init.h>
+#include <wx/wfstream.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <map>
+
+namespace {
+
+struct AssertRegel
+{
+    std::string conditie;
+    std::string melding;
+};
+
+std::vector<AssertRegel> asserts;
+std::vector<std::string> verwacht;
+bool programmaAlGestart = false;
+
+void assertHandler(const wxString& bestand, int regel, const wxString& functie, const wxString& conditie,
+                   const wxString& melding)
+{
+    asserts.push_back({conditie.ToStdString(), melding.ToStdString()});
+    for (const std::string& v : verwacht)
+        if (v == conditie.ToStdString())
+            return;
+    ADD_FAILURE_AT(bestand.ToStdString().c_str(), regel)
+        << "wx assertion in " << functie << ": " << conditie << " " << melding;
+}
+
+class OpnameLog : public wxLog
+{
+public:
+    explicit OpnameLog(std::vector<LogRegel>& regels) : regels(regels) {}
+
+protected:
+    void DoLogRecord(wxLogLevel niveau, const wxString& tekst, const wxLogRecordInfo&) override
+    {
+        regels.push_back({niveau, tekst});
+    }
+
+private:
+    std::vector<LogRegel>& regels;
+};
+
+std::vector<LogRegel> alleLog;
+
+} // namespace
+
+void ProgrammaTest::SetUp()
+{
+    asserts.clear();
+    verwacht.clear();
+    alleLog.clear();
+
+    char sjabloon[] = "/tmp/klavermol-test-XXXXXX";
+    const char* map = mkdtemp(sjabloon);
+    ASSERT_NE(map, nullptr);
+    thuis = map;
+    setenv("HOME", map, 1);
+    setenv("XDG_CONFIG_HOME", (thuis + "/.config").ToStdString().c_str(), 1);
+    // A fixed system language, so that nothing depends on the machine.
+    setenv("LC_ALL", "en_US.UTF-8", 1);
+    setenv("LANG", "en_US.UTF-8", 1);
+    wxSetAssertHandler(assertHandler);
+    eersteTaal = wxLANGUAGE_ENGLISH;
+}
+
+void ProgrammaTest::TearDown()
+{
+    if (gestart)
+        stop();
+    if (HasFailure())
+        for (const LogRegel& r : alleLog)
+            std::cerr << "log " << r.niveau << ": " << r.tekst.utf8_string() << "\n";
+    wxFileName::Rmdir(thuis, wxPATH_RMDIR_RECURSIVE);
+}
+
+void ProgrammaTest::schrijfInstellingen(const std::string& inhoud)
+{
+    instellingen = inhoud;
+}
+
+void ProgrammaTest::zetTaal(int taal)
+{
+    eersteTaal = taal;
+}
+
+wxString ProgrammaTest::instellingenPad() const
+{
+    return thuis + "/.Klavermol";
+}
+
+void ProgrammaTest::start()
+{
+    ASSERT_FALSE(programmaAlGestart) << "one program start per process: run the GUI tests through ctest";
+    programmaAlGestart = true;
+
+    std::string inhoud = instellingen;
+    if (eersteTaal >= 0 && inhoud.find("Encoding=") == std::string::npos) {
+        const std::string groep = "[Gebruikersinstellingen]\n";
+        const std::string regel = "Encoding=" + std::to_string(eersteTaal) + "\n";
+        const std::size_t plaats = inhoud.find(groep);
+        if (plaats == std::string::npos)
+            inhoud = groep + regel + inhoud;
+        else
+            inhoud.insert(plaats + groep.size(), regel);
+    }
+    if (!inhoud.empty())
+        std::ofstream(instellingenPad().ToStdString()) << inhoud;
+
+    wxLog::SetActiveTarget(new OpnameLog(alleLog));
+    wxLog::SetLogLevel(wxLOG_Max);
+    wxLog::SetVerbose(true);
+
+    DesktopAppBasis::geefProcesNaad().start = [this](const wxString& pad) {
+        procesStappen.push_back("start:" + pad.ToStdString());
+        return 1L;
+    };
+    DesktopAppBasis::geefProcesNaad().stop = [this] { procesStappen.push_back("stop"); };
+
+    new Klavermol;
+    static int argc = 1;
+    static char naam[] = "klavermol";
+    static char* argv[] = {naam, nullptr};
+    ASSERT_TRUE(wxEntryStart(argc, argv));
+    gestart = true;
+    ASSERT_TRUE(wxTheApp->CallOnInit());
+    verwerk();
+}
+
+void ProgrammaTest::stop()
+{
+    if (!gestart)
+        return;
+    gestart = false;
+    if (wxWindow* hoofd = app().geefHoofdVenster())
+        if (!wxTheApp->IsScheduledForDestruction(hoofd))
+            hoofd->Close(true);
+    wxTheApp->ProcessPendingEvents();
+    wxTheApp->ProcessIdle();
+    wxTheApp->OnExit();
+    wxEntryCleanup();
+}
+
+std::unique_ptr<wxFileConfig> ProgrammaTest::leesInstellingen() const
+{
+    wxFileInputStream stroom(instellingenPad());
+    auto config = std::make_unique<wxFileConfig>(stroom);
+    config->SetExpandEnvVars(false);
+    return config;
+}
+
+Klavermol& ProgrammaTest::app() const
+{
+    return wxGetApp();
+}
+
+KlavermolVenster& ProgrammaTest::venster() const
+{
+    return *app().geefVenster();
+}
+
+void ProgrammaTest::verwerk()
+{
+    for (int i = 0; i < 3; ++i) {
+        wxTheApp->ProcessPendingEvents();
+        wxTheApp->Yield(true);
+    }
+    if (app().geefVenster() != nullptr && !wxTheApp->IsScheduledForDestruction(app().geefVenster()))
+        app().geefVenster()->UpdateWindowUI(wxUPDATE_UI_RECURSE);
+}
+
+void ProgrammaTest::verwachtAssert(const std::string& conditie)
+{
+    verwacht.push_back(conditie);
+}
+
+int ProgrammaTest::aantalAsserts(const std::string& conditie) const
+{
+    int n = 0;
+    for (const AssertRegel& a : asserts)
+        if (a.conditie == conditie)
+            ++n;
+    return n;
+}
+
+std::vector<LogRegel> ProgrammaTest::logRegels(wxLogLevel niveau) const
+{
+    std::vector<LogRegel> uit;
+    for (const LogRegel& r : alleLog)
+        if (r.niveau == niveau)
+            uit.push_back(r);
+    return uit;
+}
+
+bool ProgrammaTest::heeftLog(wxLogLevel niveau, const wxString& tekst) const
+{
+    for (const LogRegel& r : alleLog)
+        if (r.niveau == niveau && r.tekst == tekst)
+            return true;
+    return false;
+}
+
+int main(int argc, char** argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,67 @@
+#pragma once
+// Runs the real program in this process for one test: a private HOME with
+// its own settings file, a fixed language, a recording log, wx assertions
+// turned into test failures unless expected, and no real restart.
+#include "toepassing/klavermol.h"
+#include "toepassing/klavermolvenster.h"
+
+#include <gtest/gtest.h>
+#include <wx/fileconf.h>
+#include <wx/log.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+struct LogRegel
+{
+    wxLogLevel niveau;
+    wxString tekst;
+};
+
+class ProgrammaTest : public ::testing::Test
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // Writes the settings file the program will find (before start()).
+    void schrijfInstellingen(const std::string& inhoud);
+    // Pins the interface language in the settings file (default English).
+    void zetTaal(int taal);
+
+    void start();   // constructs the application object and runs OnInit
+    void stop();    // closes the program in order: window, then application
+
+    // The settings file as the program left it.
+    std::unique_ptr<wxFileConfig> leesInstellingen() const;
+    wxString instellingenPad() const;
+
+    Klavermol& app() const;
+    KlavermolVenster& venster() const;
+
+    // Lets pending events and idle processing run; refreshes update-UI state.
+    void verwerk();
+
+    // The assertion (by its condition text) that this test expects to see.
+    void verwachtAssert(const std::string& conditie);
+    int aantalAsserts(const std::string& conditie) const;
+
+    std::vector<LogRegel> logRegels(wxLogLevel niveau) const;
+    bool heeftLog(wxLogLevel niveau, const wxString& tekst) const;
+
+    // What the restart seam recorded, in order ("start:<path>", "stop").
+    std::vector<std::string> procesStappen;
+
+    wxString thuis;
+
+private:
+    bool gestart = false;
+    int eersteTaal = -1;
+    std::string instellingen;
+};
+
+inline void PrintTo(const wxString& s, std::ostream* os)
+{
+    *os << '"' << s.utf8_string() << '"';
+}

@@ -1,0 +1,75 @@
+#include "kern/sjablonen.h"
+#include "kern/tekst.h"
+
+#include <gtest/gtest.h>
+#include <wx/fileconf.h>
+#include <wx/sstream.h>
+#include <wx/utils.h>
+
+TEST(Tekst, DubbeleQuotes)
+{
+    EXPECT_EQ(kern::dubbeleQuotes("naam", false), "\"naam\"");
+    EXPECT_EQ(kern::dubbeleQuotes("naam", true), " \"naam\" ");
+    EXPECT_EQ(kern::dubbeleQuotes("", true), " \"\" ");
+}
+
+TEST(Tekst, GeneratieDatumFollowsSourceDateEpochInUtc)
+{
+    wxSetEnv("SOURCE_DATE_EPOCH", "1599485122");
+    EXPECT_EQ(kern::geefGeneratieDatum(), "2020-09-07 13:25:22");
+    wxSetEnv("SOURCE_DATE_EPOCH", "not a number");
+    EXPECT_TRUE(kern::geefGeneratieDatum().Matches("????-??-?? ??:??:??"));
+    wxUnsetEnv("SOURCE_DATE_EPOCH");
+    EXPECT_TRUE(kern::geefGeneratieDatum().Matches("????-??-?? ??:??:??"));
+}
+
+TEST(Sjablonen, DefaultsAreTheBuiltInTexts)
+{
+    const kern::Sjablonen s = kern::geefStandaardSjablonen();
+    EXPECT_EQ(s.projektKommando,
+              "if(UNIX)\nif (APPLE)\nadd_executable(${ProjectName} MACOSX_BUNDLE ${SRCS} ${OSX_BUNDLE_ICON})\n"
+              "elseif(CMAKE_SYSTEM_NAME STREQUAL \"FreeBSD\")\n\tadd_executable(${ProjectName} ${SRCS})\n"
+              "install(TARGETS ${ProjectName} RUNTIME DESTINATION bin)\n"
+              "elseif(CMAKE_SYSTEM_NAME STREQUAL \"Linux\")\nadd_executable(${ProjectName} ${SRCS})\n"
+              "install(TARGETS ${ProjectName}  RUNTIME DESTINATION bin)\nendif(APPLE)\nelseif(WIN32)\n"
+              "add_executable(${ProjectName} WIN32 ${SRCS})\nendif(UNIX)\n\n\n");
+    EXPECT_EQ(s.ccProjektKommando, "## Enter the Cross compile commands here.");
+    EXPECT_EQ(s.biebLibNaam, "LibName");
+    EXPECT_EQ(s.biebIncludeNaam, "AllIncludeDirs");
+    const wxString voegToe =
+        "\n## This library can now be included in any build by using \"add_subdirectory( the_path_to_this_lib )\" .";
+    const wxString link1 = "\n## This library can now be linked in any build by including the Library name in the "
+                           "list: \"target_link_libraries( ... LibName ... )\" .";
+    const wxString link2 = "\n## The objects in this library can now be included in any other library or executable "
+                           "by referring to the object library name: \"$<TARGET_OBJECTS: Library Name >\" .";
+    EXPECT_EQ(s.biebKommando, "add_library(${LibName} STATIC ${SRCS})" + voegToe + link1);
+    EXPECT_EQ(s.dynBiebKommando, "add_library(${LibName} SHARED ${SRCS})" + voegToe + link1);
+    EXPECT_EQ(s.objektBiebKommando, "add_library(${LibName} OBJECT ${SRCS})" + voegToe + link2);
+    EXPECT_TRUE(s.kopieerrechtMededeling.StartsWith("## (c)2001-2017 YOUR Copyright\n## $Id: "));
+    EXPECT_TRUE(s.kopieerrechtMededeling.EndsWith("$\n\n"));
+    EXPECT_EQ(s.includeKommando,
+              "## Include this file where you would want to compile the listed source files (stored in variable "
+              "SRCS).\n## and for including the listed include_directories directives.");
+}
+
+TEST(Sjablonen, DynamicAndObjectCommandsAreReadButNeverWritten)
+{
+    wxStringInputStream leeg("");
+    wxFileConfig config(leeg);
+    kern::Sjablonen s = kern::geefStandaardSjablonen();
+    s.biebKommando = "static edited";
+    s.dynBiebKommando = "dynamic edited";
+    s.objektBiebKommando = "object edited";
+    s.kopieerrechtMededeling = "";
+    kern::schrijfSjablonen(config, s);
+
+    EXPECT_EQ(config.Read("/Configuratie/BiebKommando"), "static edited");
+    EXPECT_FALSE(config.HasEntry("/Configuratie/DynBiebKommando"));
+    EXPECT_FALSE(config.HasEntry("/Configuratie/ObjektBiebKommando"));
+    EXPECT_TRUE(config.HasEntry("/Configuratie/KopieerrechtMededeling"));
+
+    const kern::Sjablonen terug = kern::leesSjablonen(config);
+    EXPECT_EQ(terug.biebKommando, "static edited");
+    EXPECT_EQ(terug.kopieerrechtMededeling, "");
+    EXPECT_EQ(terug.dynBiebKommando, kern::geefStandaardSjablonen().dynBiebKommando);
+}

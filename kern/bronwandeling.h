@@ -1,0 +1,65 @@
+#pragma once
+// One walk over a directory tree that answers several wildcard patterns at
+// once, with exactly the answers the toolkit's wxDir enumeration gives per
+// pattern (wxDir::GetAllFiles, FindFirst, HasFiles) on POSIX:
+//
+//  - a directory is read once; its sub-directories are entered in the order
+//    readdir gives them, and only after all of them the directory's own
+//    matching files are handed out, again in readdir order (so per pattern
+//    the order equals the toolkit's);
+//  - "." and ".." are skipped; without `verborgen` every name starting with
+//    a dot is skipped, directories included;
+//  - everything that is not a directory counts as a file: regular files,
+//    symbolic links to files, broken links, fifos. With `volgLinks` a link
+//    is judged by its target (a link to a directory is a directory), without
+//    it by itself (a link to a directory is then a file);
+//  - patterns are matched case-sensitively against the file name with the
+//    toolkit's wildcard rules ('*' any run, '?' one character, '\' quotes);
+//  - a directory that cannot be opened is passed by silently;
+//  - unlike the toolkit, a directory that is already on the path from the
+//    root (same device and inode, reached again through a link or a bind
+//    mount) is not entered again, so a recursive walk always ends.
+#include <wx/string.h>
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace kern {
+
+// The toolkit's wxDIR_DIRS, !wxDIR_NO_FOLLOW and wxDIR_HIDDEN.
+struct WandelWijze {
+    bool recursief = false;
+    bool volgLinks = true;
+    bool verborgen = false;
+};
+
+// A file that matched: its name as the toolkit converts it, and bit i set
+// for every pattern i it matches.
+struct Treffer {
+    wxString naam;
+    std::uint32_t patronen = 0;
+};
+
+// Receives the matching files of one directory. `prefix` is the directory
+// as the toolkit writes it, ending in the separator, so prefix + naam is the
+// toolkit's path. Return false to end the walk.
+using MapOntvanger =
+    std::function<bool(const wxString& prefix, const std::vector<Treffer>&)>;
+
+// In what order a directory's own files are handed out: after its
+// sub-directories (the toolkit's order), or before them (a probe that wants
+// to stop early and does not care about order).
+enum class Volgorde { SubmappenEerst, EigenBestandenEerst };
+
+// Walks `map` with at most 32 patterns. Returns false when `map` itself
+// cannot be opened (nothing is then handed out).
+bool wandel(const wxString& map, const std::vector<wxString>& patronen,
+            const WandelWijze& wijze, Volgorde volgorde,
+            const MapOntvanger& ontvanger);
+
+// The toolkit's wildcard match of a name against a pattern; with puntApart
+// a name starting with a dot never matches.
+bool pastPatroon(const wxString& patroon, const wxString& naam, bool puntApart);
+
+} // namespace kern

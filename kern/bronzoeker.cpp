@@ -1,0 +1,160 @@
+#include "kern/bronzoeker.h"
+
+#include "kern/bronwandeling.h"
+
+#include <dirent.h>
+
+namespace kern {
+namespace {
+
+bool kanOpenen(const wxString& map)
+{
+    if (map.empty())
+        return false;
+    DIR* d = ::opendir(map.fn_str());
+    if (d)
+        ::closedir(d);
+    return d != nullptr;
+}
+
+// The enumeration flags of modes 1 and 2.
+WandelWijze geefWijze(int modus)
+{
+    WandelWijze wijze;
+    wijze.recursief = modus == ModusRecursief;
+    wijze.volgLinks = modus == ModusRecursief;
+    wijze.verborgen = false;
+    return wijze;
+}
+
+// The probe's patterns, one bit each.
+enum : std::uint32_t { BitC = 1, BitCpp = 2, BitCxx = 4, BitH = 8, BitHpp = 16, BitS = 32, BitGrootS = 64 };
+const std::vector<wxString>& geefProbePatronen()
+{
+    static const std::vector<wxString> patronen{
+        wxS("*.c"), wxS("*.cpp"), wxS("*.cxx"), wxS("*.h"), wxS("*.hpp"), wxS("*.s"), wxS("*.S")};
+    return patronen;
+}
+
+// One question of the probe: the flag is true when any of the patterns in
+// `masker` has a match.
+struct Vraag {
+    bool* vlag;
+    std::uint32_t masker;
+};
+
+std::vector<Vraag> geefVragen(int modus, const Families& aan, Aanwezig& v)
+{
+    if (modus == ModusBestanden)
+        return {{&v.c, BitC}, {&v.cpp, BitCpp | BitCxx}, {&v.h, BitH | BitHpp}, {&v.s, BitS | BitGrootS}};
+    std::vector<Vraag> vragen;
+    if (aan.c)
+        vragen.push_back({&v.c, BitC});
+    if (aan.cpp)
+        vragen.push_back({&v.cpp, BitCpp | BitCxx});
+    if (aan.h) {
+        // With C++ on, the "*.hpp" answer survives only when C is on too;
+        // with C++ off, "*.hpp" counts only when C is off as well.
+        const std::uint32_t h = aan.cpp ? (aan.c ? BitH | BitHpp : BitH)
+                                        : (aan.c ? BitH : BitH | BitHpp);
+        vragen.push_back({&v.h, h});
+    }
+    if (aan.s)
+        vragen.push_back({&v.s, BitS | BitGrootS});
+    return vragen;
+}
+
+} // namespace
+
+std::vector<wxString> geefPatronen(const Families& aan)
+{
+    std::vector<wxString> patronen;
+    if (aan.c) {
+        patronen.push_back(wxS("*.c"));
+        if (aan.h)
+            patronen.push_back(wxS("*.h"));
+    }
+    if (aan.cpp) {
+        patronen.push_back(wxS("*.cpp"));
+        patronen.push_back(wxS("*.cxx"));
+        if (aan.h) {
+            patronen.push_back(wxS("*.hpp"));
+            if (!aan.c)
+                patronen.push_back(wxS("*.h"));
+        }
+    }
+    if (aan.h && !aan.c && !aan.cpp) {
+        patronen.push_back(wxS("*.h"));
+        patronen.push_back(wxS("*.hpp"));
+    }
+    if (aan.s) {
+        patronen.push_back(wxS("*.s"));
+        patronen.push_back(wxS("*.S"));
+    }
+    return patronen;
+}
+
+bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
+                       wxArrayString& gevonden)
+{
+    if (modus != ModusMap && modus != ModusRecursief)
+        return true;
+    const std::vector<wxString> patronen = geefPatronen(aan);
+    if (patronen.empty())
+        return kanOpenen(map);
+
+    // One bucket per pattern; the walk fills them all at once.
+    std::vector<std::vector<wxString>> emmers(patronen.size());
+    const bool open = wandel(map, patronen, geefWijze(modus), Volgorde::SubmappenEerst,
+        [&emmers](const wxString& prefix, const std::vector<Treffer>& treffers) {
+            for (const Treffer& t : treffers) {
+                const wxString pad = prefix + t.naam;
+                for (size_t i = 0; i < emmers.size(); ++i)
+                    if (t.patronen & (std::uint32_t(1) << i))
+                        emmers[i].push_back(pad);
+            }
+            return true;
+        });
+    size_t totaal = gevonden.size();
+    for (const auto& emmer : emmers)
+        totaal += emmer.size();
+    gevonden.Alloc(totaal);
+    for (const auto& emmer : emmers)
+        for (const wxString& pad : emmer)
+            gevonden.Add(pad);
+    return open;
+}
+
+bool onderzoekMap(const wxString& map, int modus, const Families& aan, Aanwezig& vlaggen)
+{
+    if (modus != ModusBestanden && modus != ModusMap && modus != ModusRecursief)
+        return kanOpenen(map);
+    Aanwezig nieuw = vlaggen;
+    const std::vector<Vraag> vragen = geefVragen(modus, aan, nieuw);
+    if (vragen.empty())
+        return kanOpenen(map);
+
+    WandelWijze wijze = geefWijze(modus);
+    if (modus == ModusBestanden) {
+        wijze.volgLinks = true;
+        wijze.verborgen = true;
+    }
+    std::uint32_t gezien = 0;
+    const bool open = wandel(map, geefProbePatronen(), wijze, Volgorde::EigenBestandenEerst,
+        [&](const wxString&, const std::vector<Treffer>& treffers) {
+            for (const Treffer& t : treffers)
+                gezien |= t.patronen;
+            for (const Vraag& v : vragen)
+                if ((gezien & v.masker) == 0)
+                    return true;
+            return false; // every flag asked for is true: stop
+        });
+    if (!open)
+        return false;
+    for (const Vraag& v : vragen)
+        *v.vlag = (gezien & v.masker) != 0;
+    vlaggen = nieuw;
+    return true;
+}
+
+} // namespace kern

@@ -1,0 +1,42 @@
+#pragma once
+// The entries of the "Source Files" list beside a hash set, so that the
+// duplicate check of the Add command stays cheap for tens of thousands of
+// paths. The window keeps its wxCheckListBox in step with this model:
+//
+//   wxArrayString nieuw = selektie.voegToe(gevonden, meldDubbel);
+//   lijst->Append(nieuw);  then check the appended entries;
+//   selektie.wis()  together with  lijst->Clear().
+//
+// Entries are compared exactly: case-sensitively, on the whole string.
+#include <wx/arrstr.h>
+#include <wx/string.h>
+
+#include <functional>
+#include <unordered_set>
+#include <vector>
+
+namespace kern {
+
+class BronSelektie {
+public:
+    using DubbelMelder = std::function<void(const wxString& pad)>;
+
+    // Takes `paden` in order: a path not yet present is appended and
+    // returned (in order) for the list to append checked; a path that is
+    // present, also one that appeared earlier in the same batch, is passed
+    // to `meldDubbel` at its place in the order and not added.
+    wxArrayString voegToe(const wxArrayString& paden, const DubbelMelder& meldDubbel);
+
+    // Removes every entry.
+    void wis();
+
+    bool bevat(const wxString& pad) const;
+    size_t aantal() const { return lijst_.size(); }
+    const wxString& geef(size_t index) const { return lijst_[index]; }
+
+private:
+    std::vector<wxString> lijst_;
+    std::unordered_set<wxString> aanwezig_;
+};
+
+} // namespace kern

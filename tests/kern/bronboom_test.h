@@ -1,0 +1,150 @@
+#pragma once
+// A throw-away directory tree for the source-search tests, and the
+// toolkit's own answers to compare against.
+#include "kern/bronzoeker.h"
+
+#include <wx/arrstr.h>
+#include <wx/dir.h>
+#include <wx/string.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+#include <vector>
+
+class TijdelijkeBoom {
+public:
+    TijdelijkeBoom()
+    {
+        std::string sjabloon = (std::filesystem::temp_directory_path() / "klavermol-bron-XXXXXX").string();
+        if (::mkdtemp(sjabloon.data()) == nullptr)
+            ADD_FAILURE() << "mkdtemp";
+        wortel_ = sjabloon;
+    }
+    ~TijdelijkeBoom()
+    {
+        std::error_code fout;
+        std::filesystem::remove_all(wortel_, fout);
+    }
+    TijdelijkeBoom(const TijdelijkeBoom&) = delete;
+    TijdelijkeBoom& operator=(const TijdelijkeBoom&) = delete;
+
+    // The root, or a path below it, as the program would hand it over.
+    wxString map(const std::string& rel = {}) const
+    {
+        return wxString::FromUTF8(rel.empty() ? wortel_ : wortel_ + "/" + rel);
+    }
+    std::string pad(const std::string& rel) const { return wortel_ + "/" + rel; }
+
+    void maakMap(const std::string& rel) const { std::filesystem::create_directories(pad(rel)); }
+    void maakBestand(const std::string& rel) const
+    {
+        const auto p = std::filesystem::path(pad(rel));
+        std::filesystem::create_directories(p.parent_path());
+        std::ofstream(p) << "x";
+    }
+    // A symbolic link at `rel` whose text is `doel` (relative or absolute).
+    void maakLink(const std::string& doel, const std::string& rel) const
+    {
+        std::filesystem::create_directories(std::filesystem::path(pad(rel)).parent_path());
+        std::filesystem::create_symlink(doel, pad(rel));
+    }
+
+private:
+    std::string wortel_;
+};
+
+// The toolkit's flags of add modes 1 and 2.
+inline int geefToolkitVlaggen(int modus)
+{
+    return modus == 1 ? (wxDIR_FILES | wxDIR_NO_FOLLOW) : (wxDIR_FILES | wxDIR_DIRS);
+}
+
+// What the toolkit collects, pattern by pattern.
+inline wxArrayString verzamelPerPatroon(const wxString& map, const std::vector<wxString>& patronen,
+                                        int vlaggen)
+{
+    wxArrayString alles;
+    for (const wxString& p : patronen)
+        wxDir::GetAllFiles(map, &alles, p, vlaggen);
+    return alles;
+}
+
+inline std::vector<wxString> gesorteerd(const wxArrayString& a)
+{
+    std::vector<wxString> v(a.begin(), a.end());
+    std::sort(v.begin(), v.end());
+    return v;
+}
+
+// A tree of random shape: names in mixed case, extensions that differ only
+// in case, hidden files and directories, links to files, broken links,
+// non-UTF-8 names, and links to directories. Directory links point into
+// the sub-tree "d0" and are never placed inside it, so there is no cycle
+// and the toolkit's own walk ends too.
+inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
+{
+    std::mt19937 rnd(zaad);
+    const auto kans = [&rnd](unsigned n) { return rnd() % n == 0; };
+    const std::vector<std::string> alleExt{".c", ".C", ".h", ".H", ".hpp", ".HPP", ".cpp", ".cxx",
+                                           ".CXX", ".s", ".S", ".txt", ".c.orig", "", ".cc", ".hp"};
+    std::vector<std::string> ext;
+    for (const auto& e : alleExt)
+        if (kans(2))
+            ext.push_back(e);
+    if (ext.empty())
+        ext.push_back(".c");
+    const auto geefExt = [&]() { return ext[rnd() % ext.size()]; };
+    const auto geefNaam = [&](int i) {
+        std::string naam;
+        for (unsigned n = 1 + rnd() % 3; n > 0; --n)
+            naam += "aAbBxX"[rnd() % 6];
+        if (kans(10))
+            naam = "\xc3\xa9" + naam;  // é
+        if (kans(15))
+            naam = "b\xff" + naam;     // not UTF-8
+        return (kans(8) ? "." : "") + naam + std::to_string(i);
+    };
+
+    std::vector<std::string> mappen{""};
+    boom.maakMap("d0");
+    mappen.push_back("d0");
+    for (int i = 1; i < 14; ++i) {
+        const std::string ouder = mappen[rnd() % mappen.size()];
+        const std::string map = (ouder.empty() ? "" : ouder + "/") + geefNaam(i);
+        boom.maakMap(map);
+        mappen.push_back(map);
+    }
+    const auto in = [](const std::string& map) { return map.empty() ? map : map + "/"; };
+    std::vector<std::string> bestanden;
+    for (int i = 0; i < 45; ++i) {
+        const std::string b = in(mappen[rnd() % mappen.size()]) + geefNaam(i) + geefExt();
+        boom.maakBestand(b);
+        bestanden.push_back(b);
+    }
+    for (int i = 0; i < 6; ++i)
+        boom.maakLink(boom.pad(bestanden[rnd() % bestanden.size()]),
+                      in(mappen[rnd() % mappen.size()]) + "lf" + geefNaam(i) + geefExt());
+    for (int i = 0; i < 2; ++i)
+        boom.maakLink("nergens", in(mappen[rnd() % mappen.size()]) + "bl" + geefNaam(i) + geefExt());
+    std::vector<std::string> doelen, plekken;
+    for (const auto& m : mappen)
+        (m.rfind("d0", 0) == 0 ? doelen : plekken).push_back(m);
+    for (int i = 0; i < 4; ++i)
+        boom.maakLink(boom.pad(doelen[rnd() % doelen.size()]),
+                      in(plekken[rnd() % plekken.size()]) + "ld" + geefNaam(i) + geefExt());
+}
+
+// Every combination of the four switches.
+inline std::vector<kern::Families> geefAlleFamilies()
+{
+    std::vector<kern::Families> alle;
+    for (int i = 0; i < 16; ++i)
+        alle.push_back(kern::Families{(i & 1) != 0, (i & 2) != 0, (i & 4) != 0, (i & 8) != 0});
+    return alle;
+}

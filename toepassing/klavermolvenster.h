@@ -1,10 +1,74 @@
 #pragma once
-// The program's only frame.
+// The program's only frame: collects sources on the left, produces the
+// CMake output on the right. Its handlers are spread over several files by
+// concern (see klavermolvenster_*.cpp).
+#include "desktopAlgemeen.h"
+#include "support/standschakelaar.h"
+#include "kern/selektie.h"
+#include "kern/sjablonen.h"
+
+#include <wx/arrstr.h>
+#include <wx/filehistory.h>
 #include <wx/frame.h>
+
+
+class wxBitmapButton;
+class wxButton;
+class wxCheckBox;
+class wxCheckListBox;
+class wxChoice;
+class wxDirPickerCtrl;
+class wxFileDirPickerEvent;
+class wxFilePickerCtrl;
+class wxNotebook;
+class wxRadioBox;
+class wxStaticBox;
+class wxTextCtrl;
+class wxToggleButton;
+
+// Control identifiers.
+enum
+{
+    KlavermolVensterID = 10000,
+    PaneelID = 10001,
+    UitvoerSoortKeuzeID = 10002,
+    ProjektLibIncludeNaamID = 10003,
+    VindBestandenInDirsID = 10004,
+    UitvoerTekstID = 10005,
+    OutputDirPickerID = 10006,
+    StatusBalkID = 10007,
+    ZetAlsUitvoerID = 10008,
+    IncludePaneelID = 10009,
+    BestandSelektieLijstID = 10010,
+    SelektieBoekID = 10011,
+    VindCMakeIncludeDirID = 10012,
+    VindCMakeSubDirID = 10013,
+    BestandNaamTekstID = 10014,
+    BronPaneelID = 10015,
+    BiebPaneelID = 10016,
+    IncludeLijstID = 10017,
+    BiebLijstID = 10018,
+    VoegToeCMakeSubDirID = 10019,
+    VoegToeCMakeIncludeID = 10020,
+    VoegToeModeKeuzeID = 10021,
+    CMakeProjektKeuzeID = 10022,
+    VoegCBestandenToeID = 10023,
+    VoegCPPBestandenToeID = 10024,
+    VoegHBestandenToeID = 10025,
+    AutoZetUitvoerDirID = 10026,
+    VoegSBestandenToeID = 10027,
+    UitsluitTermID = 10028,
+    UitsluitKaderID = 10029,
+    GebruikSourceDirNaamID = 10030,
+    ZetTaalID = 10031,
+    VorigeLokatieID = 10032,
+    CMakeBiebKeuzeID = 10033
+};
 
 class KlavermolVenster : public wxFrame
 {
     wxDECLARE_DYNAMIC_CLASS(KlavermolVenster);
+    wxDECLARE_EVENT_TABLE();
 
 public:
     KlavermolVenster();
@@ -14,4 +78,147 @@ public:
 
     bool Create(wxWindow* ouder, wxWindowID id, const wxString& titel, const wxPoint& positie,
                 const wxSize& grootte, long stijl);
+    void CreateControls();
+
+    wxBitmap GetBitmapResource(const wxString& naam);
+    wxIcon GetIconResource(const wxString& naam);
+
+    // Source search and filters.
+    void OnSelekteerBestandType();
+    void onderzoekPadOpBestanden();
+
+    // Generators.
+    void maakProjekt();
+    void maakLib();
+    void maakInclude();
+
+    // --- handlers: navigation (klavermolvenster_navigatie.cpp)
+    void OnHomeKnopClick(wxCommandEvent& event);
+    void OnVorigeLokatieIDClick(wxCommandEvent& event);
+    void OnBACKWARDClick(wxCommandEvent& event);
+    void OnFORWARDClick(wxCommandEvent& event);
+    void OnVindBestandenInDirsIDDirPickerChanged(wxFileDirPickerEvent& event);
+    void OnHOMEClick(wxCommandEvent& event);
+    void OnMOREClick(wxCommandEvent& event);
+
+    // --- handlers: source search (klavermolvenster_zoek.cpp)
+    void OnVoegCBestandenToeIDClick(wxCommandEvent& event);
+    void OnVoegCPPBestandenToeIDClick(wxCommandEvent& event);
+    void OnVoegHBestandenToeIDClick(wxCommandEvent& event);
+    void OnVoegSBestandenToeIDClick(wxCommandEvent& event);
+    void OnVoegToeModeKeuzeIDSelected(wxCommandEvent& event);
+    void OnAddClick(wxCommandEvent& event);
+
+    // --- handlers: the three lists (klavermolvenster_lijsten.cpp)
+    void OnBestandSelektieLijstIDDoubleClicked(wxCommandEvent& event);
+    void OnSELECTALLClick(wxCommandEvent& event);
+    void OnClearClick(wxCommandEvent& event);
+
+    // --- handlers: output (klavermolvenster_uitvoer.cpp)
+    void OnVindCMakeSubDirIDFilePickerChanged(wxFileDirPickerEvent& event);
+    void OnVoegToeCMakeSubDirIDClick(wxCommandEvent& event);
+    void OnVindCMakeIncludeDirIDFilePickerChanged(wxFileDirPickerEvent& event);
+    void OnVoegToeCMakeIncludeIDClick(wxCommandEvent& event);
+    void OnUitvoerSoortKeuzeIDSelected(wxCommandEvent& event);
+    void OnProjektLibIncludeNaamIDTextUpdated(wxCommandEvent& event);
+    void OnGebruikSourceDirNaamIDClick(wxCommandEvent& event);
+    void outputDirVeranderdHandler(wxFileDirPickerEvent& event);
+    void OnGenerateCMakeHandler(wxCommandEvent& event);
+    void SlaOpCMakeHandler(wxCommandEvent& event);
+    void OnZetAlsUitvoerIDClick(wxCommandEvent& event);
+
+    // --- handlers: general menu (klavermolvenster_algemeen.cpp)
+    void sluitHandler(wxCommandEvent& event);
+    void OnPREFERENCESClick(wxCommandEvent& event);
+    void OnZetTaalIDClick(wxCommandEvent& event);
+    void OnABOUTClick(wxCommandEvent& event);
+
+    // --- update-UI rules (klavermolvenster_regels.cpp)
+    void OnVorigeLokatieIDUpdate(wxUpdateUIEvent& event);
+    void OnBACKWARDUpdate(wxUpdateUIEvent& event);
+    void OnFORWARDUpdate(wxUpdateUIEvent& event);
+    void OnVindBestandenInDirsIDUpdate(wxUpdateUIEvent& event);
+    void OnAddUpdate(wxUpdateUIEvent& event);
+    void OnVindCMakeSubDirIDUpdate(wxUpdateUIEvent& event);
+    void OnVoegToeCMakeSubDirIDUpdate(wxUpdateUIEvent& event);
+    void OnVindCMakeIncludeDirIDUpdate(wxUpdateUIEvent& event);
+    void OnVoegToeCMakeIncludeIDUpdate(wxUpdateUIEvent& event);
+    void OnClearUpdate(wxUpdateUIEvent& event);
+    void OnCMakeProjektKeuzeIDUpdate(wxUpdateUIEvent& event);
+    void OnCMakeBiebKeuzeIDUpdate(wxUpdateUIEvent& event);
+    void OnBestandNaamTekstIDUpdate(wxUpdateUIEvent& event);
+    void OnOutputDirPickerIDUpdate(wxUpdateUIEvent& event);
+    void OnAPPLYUpdate(wxUpdateUIEvent& event);
+    void OnSaveUpdate(wxUpdateUIEvent& event);
+    void OnZetAlsUitvoerIDUpdate(wxUpdateUIEvent& event);
+    void OnAutoZetUitvoerDirIDUpdate(wxUpdateUIEvent& event);
+
+    // Whether the directory of a picked file holds a file named "CMakeLists.txt".
+    static bool mapHeeftCMakeLists(const wxString& bestandPad);
+
+    // The name-box labels by output kind and the library labels by kind.
+    static const wxArrayString& geefKeuzeSoorten();
+    static const wxArrayString& geefBiebSoorten();
+
+    // Controls (owned by the window tree).
+    wxChoice* voegToeModeKeuze = nullptr;
+    wxTextCtrl* uitsluitTerm = nullptr;
+    wxDirPickerCtrl* vindBestandenInDirs = nullptr;
+    wxFilePickerCtrl* vindCMakeSubDir = nullptr;
+    wxFilePickerCtrl* vindCMakeIncludeDir = nullptr;
+    wxCheckListBox* bestandSelektieLijst = nullptr;
+    wxCheckListBox* biebLijst = nullptr;
+    wxCheckListBox* includeLijst = nullptr;
+    wxNotebook* selektieBoek = nullptr;
+    wxChoice* uitvoerSoortKeuze = nullptr;
+    wxRadioBox* cmakeProjektKeuze = nullptr;
+    wxRadioBox* cmakeBiebKeuze = nullptr;
+    wxStaticBox* naamKader = nullptr;
+    wxTextCtrl* projektLibIncludeNaam = nullptr;
+    wxTextCtrl* bestandNaamTekst = nullptr;
+    wxDirPickerCtrl* outputDirPicker = nullptr;
+    wxTextCtrl* uitvoerTekst = nullptr;
+    wxToggleButton* selekteerAllesKnop = nullptr;
+    wxCheckBox* cKeuze = nullptr;
+    wxCheckBox* cppKeuze = nullptr;
+    wxCheckBox* hKeuze = nullptr;
+    wxCheckBox* sKeuze = nullptr;
+
+    // Recent search locations (at most 9, newest first) and the back/forward history.
+    wxFileHistory recenteLokaties;
+    GeschiedenisLijst<wxFileName> lokatieGeschiedenis;
+
+    // The file-type switches and what the last probe found.
+    StandSchakelaar voegCBestandenToe;
+    StandSchakelaar voegCPPBestandenToe;
+    StandSchakelaar voegHBestandenToe;
+    StandSchakelaar voegSBestandenToe;
+    bool heeftCBestanden = false;
+    bool heeftCPPBestanden = false;
+    bool heeftHBestanden = false;
+    bool heeftSBestanden = false;
+    bool subDirHeeftCMakeLists = false;
+    bool includeIsCMake = false;
+
+    // The wildcard of the hand-picked file dialog (add mode 0).
+    wxString bestandTypeFilter;
+
+    // The nine texts the output is built from.
+    kern::Sjablonen sjablonen;
+
+    // Beside the "Libraries" list: directory and library name per row;
+    // beside the "Include files" list: the file per row.
+    wxArrayString subDirPaden;
+    wxArrayString subDirBiebNamen;
+    wxArrayString includeBestanden;
+
+    // Beside the "Source Files" list: its entries for exact look-ups.
+    kern::BronSelektie bronSelektie;
+
+private:
+    void Init();
+    void herstelToestand();
+    void bewaarToestand();
+    void zetSchakelaar(StandSchakelaar& schakelaar, int id, wxCheckBox* keuze);
+    void wisselSchakelaar(StandSchakelaar& schakelaar);
 };

@@ -109,6 +109,17 @@ const wxArrayString& KlavermolVenster::geefKeuzeSoorten()
     return soorten;
 }
 
+wxString KlavermolVenster::geefKeuzeSoort(int soort)
+{
+    const wxArrayString& soorten = geefKeuzeSoorten();
+    if (soort < 0 || static_cast<size_t>(soort) >= soorten.size()) {
+        // the array's own index check, without reading past its end
+        wxFAIL_COND_MSG(nIndex < m_nCount, "wxArrayString: index out of bounds");
+        return wxString();
+    }
+    return soorten[static_cast<size_t>(soort)];
+}
+
 const wxArrayString& KlavermolVenster::geefBiebSoorten()
 {
     static const wxArrayString soorten = [] {
@@ -171,7 +182,7 @@ void KlavermolVenster::herstelToestand()
     projektLibIncludeNaam->ChangeValue(config.Read(instelling::Projektnaam, _("MyFirstProject")));
     const int soort = static_cast<int>(config.ReadLong(instelling::Projektsoort, 0));
     uitvoerSoortKeuze->SetSelection(soort);
-    naamKader->SetLabel(geefKeuzeSoorten()[static_cast<size_t>(soort)]);
+    naamKader->SetLabel(geefKeuzeSoort(soort));
     cmakeProjektKeuze->SetSelection(static_cast<int>(config.ReadLong(instelling::Projekttype, 0)));
     cmakeBiebKeuze->SetSelection(static_cast<int>(config.ReadLong(instelling::Biebtype, 0)));
     bestandNaamTekst->ChangeValue(config.Read(instelling::BestandNaamTekst, instelling::StandaardBestandNaam));
@@ -191,6 +202,9 @@ void KlavermolVenster::herstelToestand()
     voegHBestandenToe = config.ReadBool(instelling::VoegHBestandenToe, false);
     voegSBestandenToe = config.ReadBool(instelling::VoegSBestandenToe, false);
 
+    // One refresh of the rules first, so that the automatic output directory
+    // follows the restored output kind (never for a project).
+    DoMenuUpdates();
     OnSelekteerBestandType();
     onderzoekPadOpBestanden();
 

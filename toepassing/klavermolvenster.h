@@ -158,6 +158,7 @@ public:
 
     // The name-box labels by output kind and the library labels by kind.
     static const wxArrayString& geefKeuzeSoorten();
+    static wxString geefKeuzeSoort(int soort);
     static const wxArrayString& geefBiebSoorten();
 
     // Controls (owned by the window tree).

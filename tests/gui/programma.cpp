@@ -2,7 +2,9 @@
 
 #include <wx/app.h>
 #include <wx/filename.h>
+#include <wx/dialog.h>
 #include <wx/init.h>
+#include <wx/modalhook.h>
 #include <wx/wfstream.h>
 
 #include <cstdlib>
@@ -50,6 +52,22 @@ private:
 
 std::vector<LogRegel> alleLog;
 
+// Any modal dialog that a test did not announce with wxTEST_DIALOG is a
+// failure, and is closed at once instead of waiting for a user.
+class OnverwachtDialoogHaak : public wxModalDialogHook
+{
+protected:
+    int Enter(wxDialog* dialoog) override
+    {
+        ADD_FAILURE() << "unexpected modal dialog " << dialoog->GetClassInfo()->GetClassName() << " \""
+                      << dialoog->GetTitle().utf8_string() << "\"";
+        return wxID_CANCEL;
+    }
+    void Exit(wxDialog*) override {}
+};
+
+OnverwachtDialoogHaak onverwachtDialoog;
+
 } // namespace
 
 void ProgrammaTest::SetUp()
@@ -68,6 +86,7 @@ void ProgrammaTest::SetUp()
     setenv("LC_ALL", "en_US.UTF-8", 1);
     setenv("LANG", "en_US.UTF-8", 1);
     wxSetAssertHandler(assertHandler);
+    onverwachtDialoog.Register();
     eersteTaal = wxLANGUAGE_ENGLISH;
 }
 
@@ -130,6 +149,8 @@ void ProgrammaTest::start()
     static char* argv[] = {naam, nullptr};
     ASSERT_TRUE(wxEntryStart(argc, argv));
     gestart = true;
+    // the toolkit's initialisation puts its own log target in place
+    wxLog::SetActiveTarget(new OpnameLog(alleLog));
     ASSERT_TRUE(wxTheApp->CallOnInit());
     verwerk();
 }

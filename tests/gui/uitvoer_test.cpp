@@ -1,0 +1,271 @@
+// The output side of the main window: kind and names, the sub-directory and
+// include lists, saving.
+#include "programma.h"
+
+#include <wx/checklst.h>
+#include <wx/choice.h>
+#include <wx/filedlg.h>
+#include <wx/filepicker.h>
+#include <wx/notebook.h>
+#include <wx/radiobox.h>
+#include <wx/statbox.h>
+#include <wx/testing.h>
+#include <wx/textctrl.h>
+#include <wx/textdlg.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+// Answers the library-name question with a name (or cancels).
+class GeefNaam : public wxExpectModalBase<wxTextEntryDialog, GeefNaam>
+{
+public:
+    explicit GeefNaam(const wxString& naam, int antwoord = wxID_OK) : naam(naam), antwoord(antwoord) {}
+
+protected:
+    int OnInvoked(wxTextEntryDialog* dlg) const override
+    {
+        EXPECT_EQ(dlg->GetValue(), "");
+        dlg->SetValue(naam);
+        return antwoord;
+    }
+
+private:
+    wxString naam;
+    int antwoord;
+};
+
+// Picks a file name in the save dialog after checking what it proposes.
+class BewaarAls : public wxExpectModalBase<wxFileDialog, BewaarAls>
+{
+public:
+    BewaarAls(const wxString& pad, const wxString& wildcard, const wxString& map, const wxString& naam)
+        : pad(pad), wildcard(wildcard), map(map), naam(naam) {}
+
+protected:
+    int OnInvoked(wxFileDialog* dlg) const override
+    {
+        EXPECT_EQ(dlg->GetWildcard(), wildcard);
+        EXPECT_EQ(dlg->GetDirectory(), map);
+        EXPECT_EQ(dlg->GetFilename(), naam);
+        EXPECT_TRUE(dlg->HasFlag(wxFD_SAVE));
+        EXPECT_TRUE(dlg->HasFlag(wxFD_OVERWRITE_PROMPT));
+        dlg->SetPath(pad);
+        return wxID_OK;
+    }
+
+private:
+    wxString pad, wildcard, map, naam;
+};
+
+std::string leesBytes(const wxString& pad)
+{
+    std::ifstream in(pad.ToStdString(), std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+} // namespace
+
+class Uitvoer : public ProgrammaTest
+{
+protected:
+    void kiesSoort(int soort)
+    {
+        venster().uitvoerSoortKeuze->SetSelection(soort);
+        wxCommandEvent e(wxEVT_CHOICE, UitvoerSoortKeuzeID);
+        e.SetInt(soort);
+        venster().ProcessWindowEvent(e);
+    }
+
+    void typNaam(const wxString& naam) { venster().projektLibIncludeNaam->SetValue(naam); }
+
+    void klik(int id)
+    {
+        wxCommandEvent e(wxEVT_BUTTON, id);
+        venster().ProcessWindowEvent(e);
+    }
+
+    void kiesBestand(wxFilePickerCtrl* picker, int id, const wxString& pad)
+    {
+        picker->SetPath(pad);
+        wxFileDirPickerEvent e(wxEVT_FILEPICKER_CHANGED, picker, id, pad);
+        venster().ProcessWindowEvent(e);
+    }
+
+    wxString maakMap(const wxString& naam)
+    {
+        const wxString pad = thuis + "/" + naam;
+        wxFileName::Mkdir(pad, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+        return pad;
+    }
+
+    wxString maakBestand(const wxString& pad)
+    {
+        std::ofstream(pad.ToStdString()) << "\n";
+        return pad;
+    }
+};
+
+TEST_F(Uitvoer, TheFileNameFollowsTheKindAndTheName)
+{
+    start();
+    KlavermolVenster& v = venster();
+    typNaam("Common");
+    kiesSoort(2);
+    EXPECT_EQ(v.naamKader->GetLabel(), "Include name");
+    EXPECT_EQ(v.bestandNaamTekst->GetValue(), "Common.cmake");
+    typNaam("Engine");
+    EXPECT_EQ(v.bestandNaamTekst->GetValue(), "Engine.cmake");
+    kiesSoort(0);
+    EXPECT_EQ(v.naamKader->GetLabel(), "Project name");
+    EXPECT_EQ(v.bestandNaamTekst->GetValue(), "CMakeLists.txt");
+    kiesSoort(1);
+    EXPECT_EQ(v.naamKader->GetLabel(), "Library name");
+    typNaam("mylib"); // not the include kind: the file name stays
+    EXPECT_EQ(v.bestandNaamTekst->GetValue(), "CMakeLists.txt");
+}
+
+TEST_F(Uitvoer, UseOutputDirectoryName)
+{
+    start();
+    KlavermolVenster& v = venster();
+    v.outputDirPicker->SetPath(maakMap("work/src/engine"));
+    kiesSoort(2);
+    klik(GebruikSourceDirNaamID);
+    EXPECT_EQ(v.projektLibIncludeNaam->GetValue(), "engine");
+    EXPECT_EQ(v.bestandNaamTekst->GetValue(), "engine.cmake");
+}
+
+TEST_F(Uitvoer, AddingCMakeSubDirectories)
+{
+    start();
+    KlavermolVenster& v = venster();
+    const wxString lib = maakMap("lib");
+    const wxString ander = maakMap("ander");
+    maakBestand(lib + "/CMakeLists.txt");
+    maakBestand(ander + "/CMakeLists.txt");
+
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, lib + "/CMakeLists.txt");
+    EXPECT_TRUE(v.subDirHeeftCMakeLists);
+    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam("mylib"));
+    ASSERT_EQ(v.biebLijst->GetCount(), 1u);
+    EXPECT_EQ(v.biebLijst->GetString(0), lib);
+    EXPECT_TRUE(v.biebLijst->IsChecked(0));
+    EXPECT_EQ(v.subDirPaden[0], lib);
+    EXPECT_EQ(v.subDirBiebNamen[0], "mylib");
+    EXPECT_EQ(v.selektieBoek->GetSelection(), 1);
+    EXPECT_EQ(v.GetStatusBar()->GetStatusText(0), "CMakeLists.txt was added to your selection list.");
+    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), lib);
+
+    // the same directory again: refused without a question
+    klik(VoegToeCMakeSubDirID);
+    EXPECT_TRUE(heeftLog(wxLOG_Message, "CMakeLists.txt won't be added since it is already in your selection list."));
+    EXPECT_EQ(v.biebLijst->GetCount(), 1u);
+
+    // another directory: a second row; an empty name is taken as typed
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, ander + "/CMakeLists.txt");
+    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam(""));
+    ASSERT_EQ(v.biebLijst->GetCount(), 2u);
+    EXPECT_EQ(v.subDirBiebNamen[1], "");
+
+    // cancelling the name question adds nothing
+    const wxString derde = maakMap("derde");
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(derde + "/CMakeLists.txt"));
+    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam("x", wxID_CANCEL));
+    EXPECT_EQ(v.biebLijst->GetCount(), 2u);
+}
+
+TEST_F(Uitvoer, ASubDirectoryFileWithAnotherNameIsRefused)
+{
+    start();
+    KlavermolVenster& v = venster();
+    const wxString lib = maakMap("lib");
+    maakBestand(lib + "/CMakeLists.txt");
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(lib + "/build.txt"));
+    EXPECT_TRUE(v.subDirHeeftCMakeLists); // the directory holds one
+    klik(VoegToeCMakeSubDirID);
+    EXPECT_TRUE(heeftLog(wxLOG_Error, "The selected dir does not contain a CMakeLists.txt file."));
+    EXPECT_EQ(v.biebLijst->GetCount(), 0u);
+
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(maakMap("leeg") + "/x.txt"));
+    EXPECT_FALSE(v.subDirHeeftCMakeLists);
+}
+
+TEST_F(Uitvoer, AddingIncludeFiles)
+{
+    start();
+    KlavermolVenster& v = venster();
+    const wxString map = maakMap("cmake");
+    const wxString bestand = maakBestand(map + "/extra.cmake");
+    kiesBestand(v.vindCMakeIncludeDir, VindCMakeIncludeDirID, bestand);
+    EXPECT_TRUE(v.includeIsCMake);
+    klik(VoegToeCMakeIncludeID);
+    ASSERT_EQ(v.includeLijst->GetCount(), 1u);
+    EXPECT_EQ(v.includeLijst->GetString(0), bestand);
+    EXPECT_TRUE(v.includeLijst->IsChecked(0));
+    EXPECT_EQ(v.selektieBoek->GetSelection(), 2);
+    EXPECT_EQ(v.GetStatusBar()->GetStatusText(0), "extra.cmake was added to your selection list.");
+    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), map);
+
+    klik(VoegToeCMakeIncludeID);
+    EXPECT_TRUE(heeftLog(wxLOG_Message, "extra.cmake won't be added since it is already in your selection list."));
+    EXPECT_EQ(v.includeLijst->GetCount(), 1u);
+
+    kiesBestand(v.vindCMakeIncludeDir, VindCMakeIncludeDirID, maakBestand(map + "/GROOT.CMAKE"));
+    EXPECT_FALSE(v.includeIsCMake);
+    v.UpdateWindowUI(wxUPDATE_UI_RECURSE);
+    EXPECT_FALSE(v.FindWindow(VoegToeCMakeIncludeID)->IsEnabled());
+}
+
+TEST_F(Uitvoer, SaveWritesUtf8WithoutByteOrderMark)
+{
+    start();
+    KlavermolVenster& v = venster();
+    const wxString map = maakMap("uit");
+    v.outputDirPicker->SetPath(map);
+    v.uitvoerTekst->ChangeValue(wxString::FromUTF8("set(Naam Caf\xC3\xA9)\n"));
+    const wxString pad = map + "/CMakeLists.txt";
+    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
+    EXPECT_EQ(leesBytes(pad), "set(Naam Caf\xC3\xA9)\n");
+    EXPECT_FALSE(v.uitvoerTekst->IsEmpty());
+}
+
+TEST_F(Uitvoer, TheSaveWildcardFollowsTheProjectTypeNotTheKind)
+{
+    start();
+    KlavermolVenster& v = venster();
+    const wxString map = maakMap("uit");
+    v.outputDirPicker->SetPath(map);
+    v.uitvoerTekst->ChangeValue("x");
+    typNaam("Common");
+    kiesSoort(2);
+    v.cmakeProjektKeuze->SetSelection(1);
+    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(map + "/Common.cmake",
+                                             "TXT files (*.txt)|*.txt|CMake files (*.cmake)|*.cmake", map,
+                                             "Common.cmake"));
+    v.cmakeProjektKeuze->SetSelection(0);
+    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(map + "/Common.cmake", "TXT files (*.txt)|*.txt", map, "Common.cmake"));
+    EXPECT_EQ(leesBytes(map + "/Common.cmake"), "x");
+}
+
+TEST_F(Uitvoer, AnUnwritableTargetShowsTheErrorAndKeepsTheText)
+{
+    start();
+    KlavermolVenster& v = venster();
+    v.uitvoerTekst->ChangeValue("tekst");
+    const wxString pad = thuis + "/bestaat/niet/CMakeLists.txt";
+    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", v.outputDirPicker->GetPath(),
+                                             "CMakeLists.txt"));
+    EXPECT_TRUE(heeftLog(wxLOG_Error, "Failed to open output file " + pad + " for writing to."));
+    EXPECT_EQ(v.uitvoerTekst->GetValue(), "tekst");
+}
+
+TEST_F(Uitvoer, CancellingTheSaveDialogTouchesNothing)
+{
+    start();
+    venster().uitvoerTekst->ChangeValue("tekst");
+    wxTEST_DIALOG(klik(wxID_SAVE), wxExpectModal<wxFileDialog>("", wxID_CANCEL));
+    EXPECT_FALSE(wxFileName::FileExists(venster().outputDirPicker->GetPath() + "/CMakeLists.txt"));
+}

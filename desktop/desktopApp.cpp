@@ -98,7 +98,7 @@ void DesktopApp::zetTaal(wxLanguage lang)
     config->Write(instelling::TaalGekozenPad, true);
     taal = lang;
     config->Write(instelling::EncodingPad, static_cast<long>(lang));
-    config->Flush();
+    bewaarInstellingen();
     if (hoofdVenster != nullptr)
         hoofdVenster->Close(true);
     startApplikatieOpnieuw();

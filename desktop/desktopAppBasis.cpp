@@ -3,8 +3,10 @@
 #include "desktopApp.h"
 #include "kern/instellingen.h"
 #include "kern/tekst.h"
+#include "logVanger.h"
 
 #include <wx/datetime.h>
+#include <wx/filefn.h>
 #include <wx/log.h>
 #include <wx/translation.h>
 #include <wx/utils.h>
@@ -23,14 +25,11 @@ DesktopAppBasis::ProcesNaad& DesktopAppBasis::geefProcesNaad()
 
 DesktopAppBasis::DesktopAppBasis(const wxString& naam, const wxString& korteNaam)
     : applikatieNaam(naam),
-      config(std::make_unique<wxFileConfig>(naam, DesktopApp::bedrijfsNaam, wxString(), wxString(),
-                                            wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE, wxConvAuto())),
       platformInfo(wxPlatformInfo::Get()),
       standaardPaden(wxStandardPaths::Get()),
       taal(wxLANGUAGE_DEFAULT)
 {
-    // Values such as "${SRCS}" are CMake text, never environment variables.
-    config->SetExpandEnvVars(false);
+    openInstellingen();
 
     enkeleInstantie = std::make_unique<wxSingleInstanceChecker>(naam + "-" + wxGetUserId(), "/tmp");
 
@@ -70,9 +69,53 @@ DesktopAppBasis::~DesktopAppBasis()
     config->Write(instelling::StopDatum, nu.Format(instelling::DatumVorm));
     config->Write(instelling::StopTijd, nu.Format(instelling::TijdVorm));
     config->Write(instelling::OS, static_cast<long>(platformInfo.GetOperatingSystemId()));
+    bewaarInstellingen();
+    config->DisableAutoSave(); // written above, or reported once already
     enkeleInstantie.reset();
-    // the locale member goes with the object; the store writes its file now
+    // the locale member goes with the object
     config.reset();
+}
+
+void DesktopAppBasis::openInstellingen()
+{
+    bool leesbaar;
+    {
+        LogVanger vanger;
+        config = std::make_unique<wxFileConfig>(applikatieNaam, DesktopApp::bedrijfsNaam, wxString(), wxString(),
+                                                wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE, wxConvAuto());
+        leesbaar = !vanger.heeftProblemen();
+    }
+    // Values such as "${SRCS}" are CMake text, never environment variables.
+    config->SetExpandEnvVars(false);
+    if (leesbaar)
+        return;
+
+    // What could not be read would be lost at the next write: keep the file.
+    const wxString pad = wxFileConfig::GetLocalFileName(applikatieNaam);
+    const wxString kopie = pad + ".bak";
+    if (wxCopyFile(pad, kopie, true))
+        wxLogWarning(_("The settings file %s could not be read completely; the settings that could not be read "
+                       "start from their defaults. The file was kept as %s."),
+                     pad, kopie);
+    else
+        wxLogWarning(_("The settings file %s could not be read completely; the settings that could not be read "
+                       "start from their defaults."),
+                     pad);
+}
+
+bool DesktopAppBasis::bewaarInstellingen()
+{
+    static bool gemeld = false;
+    bool gelukt;
+    {
+        LogVanger vanger;
+        gelukt = config->Flush() && !vanger.heeftProblemen();
+    }
+    if (!gelukt && !gemeld) {
+        gemeld = true;
+        wxLogError(_("Your settings could not be written to %s."), wxFileConfig::GetLocalFileName(applikatieNaam));
+    }
+    return gelukt;
 }
 
 int DesktopAppBasis::OnExit()
@@ -89,7 +132,7 @@ wxFileName DesktopAppBasis::geefExePad() const
 void DesktopAppBasis::startApplikatieOpnieuw()
 {
     config->Write(instelling::EigenHerstartPad, true);
-    config->Flush();
+    bewaarInstellingen();
     const wxString pad = geefExePad().GetFullPath();
     geefProcesNaad().start(pad);
 }

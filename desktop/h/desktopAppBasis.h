@@ -78,6 +78,10 @@ protected:
     wxArrayString applikatieNamen;
     std::unique_ptr<wxSingleInstanceChecker> enkeleInstantie;
 
+    // Writes the store to disk now; a failure is reported once per run.
+    bool bewaarInstellingen();
+
 private:
+    void openInstellingen();
     wxArrayString geefTaalPaden() const;
 };

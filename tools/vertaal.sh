@@ -26,4 +26,4 @@ trek_uit() {
 # The shared frame: start-up, language, about box.
 trek_uit Zelvanodesktop desktop/*.cpp dialogs/taalkeuzedialoog.cpp
 # The program itself, its dialogs and the comment lines it writes.
-trek_uit Klavermol toepassing/*.cpp $(ls dialogs/*.cpp | grep -v taalkeuzedialoog) kern/*.cpp cli/*.cpp
+trek_uit Klavermol toepassing/*.cpp $(ls dialogs/*.cpp | grep -v taalkeuzedialoog) kern/*.cpp $(ls cli/*.cpp 2>/dev/null)

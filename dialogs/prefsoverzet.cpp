@@ -1,0 +1,3 @@
+#include "dialogs/prefsoverzet.h"
+
+wxIMPLEMENT_DYNAMIC_CLASS(PrefsOverzet, wxObject);

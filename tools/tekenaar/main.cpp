@@ -39,7 +39,9 @@ std::map<std::string, Schrijver> maakCatalogus()
     c[ikonen + "opstart.jpg"] = [](const std::string& pad) { bewaarJpegRond(maakOpstartBeeld(), pad, 17000); };
     c[ikonen + "zelvano_klein.png"] = alsPng([] { return maakZelvanoLogo(96); });
     c[ikonen + "zelvano_zeerklein.jpg"] = alsJpeg([] { return maakZelvanoLogo(24); }, 92);
-    c[ikonen + "klavermol.jpg"] = alsJpeg([] { return maakKlaverIkoon(64); }, 92);
+    // The frame icon is loaded as is; wxWidgets only hands back a frame icon
+    // of the system icon size (32 on GTK), e.g. for the about box.
+    c[ikonen + "klavermol.jpg"] = alsJpeg([] { return maakKlaverIkoon(32); }, 92);
 
     const std::pair<const char*, Vlag> vlaggen[] = {
         {"nederland", Vlag::Nederland}, {"duitsland", Vlag::Duitsland}, {"grootbritannie", Vlag::GrootBritannie},

@@ -43,6 +43,7 @@ bool Klavermol::OnInit()
 
     const bool konStarten = venster->Show(true);
     wxASSERT(true == konStarten);
+    splash->Raise(); // over the main window also where no window manager keeps it on top
     return true;
 }
 

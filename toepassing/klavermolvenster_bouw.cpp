@@ -305,6 +305,8 @@ void KlavermolVenster::CreateControls()
                                  wxDefaultValidator, "sluitButton"),
                     0, wxGROW | wxALL, 0);
 
+    paneel->FitInside(); // the contents' own size, scrolled into view when the window is smaller
+
     auto* status = new wxStatusBar(this, StatusBalkID, wxSTB_SIZEGRIP | wxSUNKEN_BORDER);
     status->SetFieldsCount(2);
     SetStatusBar(status);

@@ -427,3 +427,16 @@ TEST_F(Venster, TheAboutMenuShowsTheCreditsInOrder)
     EXPECT_TRUE(getoond.HasIcon());
     EXPECT_EQ(getoond.GetVersion(), "07.09.2020_2.0.0.a");
 }
+
+TEST_F(Venster, AtItsDefaultSizeEveryControlCanBeScrolledIntoView)
+{
+    start();
+    wxWindow* paneel = venster().FindWindow(PaneelID);
+    ASSERT_NE(paneel, nullptr);
+    const wxSize inhoud = paneel->GetSizer()->GetMinSize();
+    const wxSize virtueel = paneel->GetVirtualSize();
+    EXPECT_GE(virtueel.x, inhoud.x);
+    EXPECT_GE(virtueel.y, inhoud.y);
+    if (inhoud.x > paneel->GetClientSize().x)
+        EXPECT_GT(paneel->GetScrollRange(wxHORIZONTAL), 0);
+}

@@ -216,6 +216,7 @@ void KlavermolVenster::herstelToestand()
     subDirBiebNamen.Clear();
     includeBestanden.Clear();
     bronSelektie.wis();
+    werklijsten.leeg();
 
     vindBestandenInDirs->SetDropTarget(new BestandDropTarget(this));
     PushStatusText(_("Welkom bij Klavermol !!"), 0);

@@ -4,6 +4,7 @@
 // concern (see klavermolvenster_*.cpp).
 #include "desktopAlgemeen.h"
 #include "support/standschakelaar.h"
+#include "kern/generator.h"
 #include "kern/selektie.h"
 #include "kern/sjablonen.h"
 
@@ -216,10 +217,17 @@ public:
     // Beside the "Source Files" list: its entries for exact look-ups.
     kern::BronSelektie bronSelektie;
 
+    // The generators' working lists, emptied by Execute before each run.
+    kern::Werklijsten werklijsten;
+
+    // What the generators read, taken from the controls.
+    kern::GeneratorInvoer geefGeneratorInvoer() const;
+
 private:
     void Init();
     void herstelToestand();
     void bewaarToestand();
     void zetSchakelaar(StandSchakelaar& schakelaar, int id, wxCheckBox* keuze);
     void wisselSchakelaar(StandSchakelaar& schakelaar);
+    void schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&));
 };

@@ -269,3 +269,61 @@ TEST_F(Uitvoer, CancellingTheSaveDialogTouchesNothing)
     wxTEST_DIALOG(klik(wxID_SAVE), wxExpectModal<wxFileDialog>("", wxID_CANCEL));
     EXPECT_FALSE(wxFileName::FileExists(venster().outputDirPicker->GetPath() + "/CMakeLists.txt"));
 }
+
+TEST_F(Uitvoer, ExecuteTwiceGivesTheTextOnceFromTheCheckedEntries)
+{
+    wxSetEnv("SOURCE_DATE_EPOCH", "1599485122");
+    start();
+    KlavermolVenster& v = venster();
+    v.outputDirPicker->SetPath("/p");
+    for (const char* pad : {"/p/main.c", "/p/src/a.c", "/p/src/weg.c", "/p/src/b.c", "/p/inc/a.h"})
+        v.bestandSelektieLijst->Check(static_cast<unsigned>(v.bestandSelektieLijst->Append(pad)));
+    v.bestandSelektieLijst->Check(2, false);
+    typNaam("Demo");
+    klik(wxID_APPLY);
+    const wxString eerste = v.uitvoerTekst->GetValue();
+    klik(wxID_APPLY);
+    EXPECT_EQ(v.uitvoerTekst->GetValue(), eerste);
+    EXPECT_TRUE(eerste.StartsWith("## Klavermol generated CMakelists Project file\n"
+                                  "## File generated on : 2020-09-07 13:25:22.\n"));
+    EXPECT_NE(eerste.Find("set(SRCS1 a.c b.c )"), wxNOT_FOUND);
+    EXPECT_EQ(eerste.Find("weg.c"), wxNOT_FOUND);
+    EXPECT_EQ(v.werklijsten.dirLijst.size(), 3u);
+
+    kern::Werklijsten werk;
+    wxString verwacht;
+    kern::maakProjekt(v.geefGeneratorInvoer(), werk, verwacht);
+    EXPECT_EQ(eerste, verwacht);
+
+    kiesSoort(1);
+    klik(wxID_APPLY);
+    EXPECT_TRUE(v.uitvoerTekst->GetValue().StartsWith("## Klavermol generated CMakelists add_library file\n"));
+    kiesSoort(2);
+    klik(wxID_APPLY);
+    EXPECT_TRUE(v.uitvoerTekst->GetValue().StartsWith("## Klavermol generated Demo include file\n"));
+    wxUnsetEnv("SOURCE_DATE_EPOCH");
+}
+
+TEST_F(Uitvoer, LibrariesAndIncludeFilesReachTheProject)
+{
+    start();
+    KlavermolVenster& v = venster();
+    const wxString lib = maakMap("lib");
+    maakBestand(lib + "/CMakeLists.txt");
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, lib + "/CMakeLists.txt");
+    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam("mylib"));
+    kiesBestand(v.vindCMakeIncludeDir, VindCMakeIncludeDirID, maakBestand(maakMap("cmake") + "/extra.cmake"));
+    klik(VoegToeCMakeIncludeID);
+    v.outputDirPicker->SetPath(thuis);
+    v.bestandSelektieLijst->Check(static_cast<unsigned>(v.bestandSelektieLijst->Append(thuis + "/src/a.c")));
+    klik(wxID_APPLY);
+    const wxString tekst = v.uitvoerTekst->GetValue();
+    EXPECT_NE(tekst.Find("set(Lib0Path ${PROJECT_SOURCE_DIR}/lib)\nadd_subdirectory(${Lib0Path})\n"), wxNOT_FOUND);
+    EXPECT_NE(tekst.Find("set(Include0Path ${PROJECT_SOURCE_DIR}/cmake)\ninclude(${Include0Path}/extra.cmake)\n"),
+              wxNOT_FOUND);
+    EXPECT_NE(tekst.Find("target_link_libraries(${ProjectName} mylib )"), wxNOT_FOUND);
+
+    v.biebLijst->Check(0, false);
+    klik(wxID_APPLY);
+    EXPECT_NE(v.uitvoerTekst->GetValue().Find("target_link_libraries(${ProjectName} )"), wxNOT_FOUND);
+}

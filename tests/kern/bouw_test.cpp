@@ -1,0 +1,90 @@
+// Generated files that CMake really configures and builds: a library made
+// with "Add CMake library" into an application.
+#include "kern/bestand.h"
+#include "kern/generator.h"
+
+#include <gtest/gtest.h>
+#include <wx/filename.h>
+#include <wx/utils.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+
+namespace {
+
+void schrijf(const wxString& pad, const char* inhoud)
+{
+    wxFileName::Mkdir(wxFileName(pad).GetPath(), wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+    std::ofstream(pad.ToStdString()) << inhoud;
+}
+
+int voerUit(const wxString& opdracht, std::string* uitvoer = nullptr)
+{
+    FILE* p = popen((opdracht + " 2>&1").ToStdString().c_str(), "r");
+    if (p == nullptr)
+        return -1;
+    char regel[512];
+    std::string alles;
+    while (fgets(regel, sizeof regel, p) != nullptr)
+        alles += regel;
+    const int status = pclose(p);
+    if (uitvoer)
+        *uitvoer = alles;
+    if (status != 0)
+        std::fprintf(stderr, "%s\n", alles.c_str());
+    return status;
+}
+
+kern::GeneratorInvoer basis(const wxString& uitvoerDir)
+{
+    kern::GeneratorInvoer in;
+    in.uitvoerDir = uitvoerDir;
+    in.sjablonen = kern::geefStandaardSjablonen();
+    in.datum = "2020-09-07 13:25:22";
+    return in;
+}
+
+} // namespace
+
+TEST(EchteBouw, ALibraryAndAProjectThatUsesItConfigureBuildAndRun)
+{
+    char sjabloon[] = "/tmp/klavermol-bouw-XXXXXX";
+    ASSERT_NE(mkdtemp(sjabloon), nullptr);
+    const wxString top = sjabloon;
+    schrijf(top + "/main.c", "#include <stdio.h>\n#include \"rekenen.h\"\n"
+                             "int main(void) { printf(\"%d\\n\", vermenigvuldig(6, 7)); return 0; }\n");
+    schrijf(top + "/rekenen/rekenen.h", "int vermenigvuldig(int a, int b);\n");
+    schrijf(top + "/rekenen/src/rekenen.c", "#include \"rekenen.h\"\nint vermenigvuldig(int a, int b) { return a * b; }\n");
+
+    // The library, written into its own directory. Its paths start from the
+    // directory of its own CMakeLists.txt, so that it works as a sub-directory.
+    kern::GeneratorInvoer bieb = basis(top + "/rekenen");
+    bieb.soort = kern::SoortBieb;
+    bieb.projektType = 1;
+    bieb.naam = "rekenen";
+    bieb.bronnen.Add(top + "/rekenen/src/rekenen.c");
+    bieb.bronnen.Add(top + "/rekenen/rekenen.h");
+    kern::Werklijsten werk;
+    wxString tekst;
+    kern::maakUitvoer(bieb, werk, tekst);
+    ASSERT_TRUE(kern::schrijfTekstBestand(top + "/rekenen/CMakeLists.txt", tekst));
+
+    // The application, with the library as an added sub-directory.
+    kern::GeneratorInvoer app = basis(top);
+    app.naam = "demo";
+    app.bronnen.Add(top + "/main.c");
+    app.bronnen.Add(top + "/rekenen/rekenen.h");
+    app.biebs.push_back({top + "/rekenen", "rekenen", true});
+    werk.leeg();
+    tekst.clear();
+    kern::maakUitvoer(app, werk, tekst);
+    ASSERT_TRUE(kern::schrijfTekstBestand(top + "/CMakeLists.txt", tekst));
+
+    ASSERT_EQ(voerUit("cmake -S " + top + " -B " + top + "/bouw"), 0);
+    ASSERT_EQ(voerUit("cmake --build " + top + "/bouw"), 0);
+    std::string uitvoer;
+    ASSERT_EQ(voerUit(top + "/bouw/demo", &uitvoer), 0);
+    EXPECT_EQ(uitvoer, "42\n");
+    wxFileName::Rmdir(top, wxPATH_RMDIR_RECURSIVE);
+}

@@ -1,0 +1,317 @@
+// klavermol-cli: the generators on the command line, for scripted
+// re-generation. Entries are collected in command-line order exactly as the
+// main window's Add does, and the text is the one Execute would show.
+#include "kern/bestand.h"
+#include "kern/bronzoeker.h"
+#include "kern/generator.h"
+#include "kern/selektie.h"
+#include "kern/tekst.h"
+
+#include <wx/cmdline.h>
+#include <wx/fileconf.h>
+#include <wx/filename.h>
+#include <wx/init.h>
+#include <wx/log.h>
+#include <wx/wfstream.h>
+
+#include <cstdio>
+#include <map>
+#include <memory>
+#include <set>
+#include <stdexcept>
+
+namespace {
+
+enum Afloop { Gelukt = 0, Fout = 1, VerkeerdGebruik = 2 };
+
+const wxCmdLineEntryDesc beschrijving[] = {
+    {wxCMD_LINE_OPTION, "k", "kind", "project|library|include (default project)"},
+    {wxCMD_LINE_OPTION, "n", "name", "project, library or include name (default MyFirstProject)"},
+    {wxCMD_LINE_OPTION, "o", "output-dir", "output directory; every path is made relative to it",
+     wxCMD_LINE_VAL_STRING, wxCMD_LINE_OPTION_MANDATORY},
+    {wxCMD_LINE_OPTION, "t", "project-type", "standard|crosscompile (default standard)"},
+    {wxCMD_LINE_OPTION, "l", "library-type", "static|dynamic|object (default static)"},
+    {wxCMD_LINE_OPTION, "m", "mode", "directory|recursive: how each DIR is searched (default directory)"},
+    {wxCMD_LINE_SWITCH, nullptr, "c", "collect C files (*.c)"},
+    {wxCMD_LINE_SWITCH, nullptr, "cpp", "collect C++ files (*.cpp, *.cxx)"},
+    {wxCMD_LINE_SWITCH, nullptr, "h", "collect header files (*.h, *.hpp)"},
+    {wxCMD_LINE_SWITCH, nullptr, "asm", "collect assembler files (*.s, *.S)"},
+    {wxCMD_LINE_OPTION, "f", "file", "add one file as hand-picked (repeatable)", wxCMD_LINE_VAL_STRING,
+     wxCMD_LINE_PARAM_MULTIPLE},
+    {wxCMD_LINE_OPTION, "x", "uncheck", "leave this entry unchecked (repeatable)", wxCMD_LINE_VAL_STRING,
+     wxCMD_LINE_PARAM_MULTIPLE},
+    {wxCMD_LINE_OPTION, nullptr, "subdir", "DIR=LIBNAME: an existing CMake sub-directory and its library (repeatable)",
+     wxCMD_LINE_VAL_STRING, wxCMD_LINE_PARAM_MULTIPLE},
+    {wxCMD_LINE_OPTION, nullptr, "include", "an existing .cmake include file (repeatable)", wxCMD_LINE_VAL_STRING,
+     wxCMD_LINE_PARAM_MULTIPLE},
+    {wxCMD_LINE_SWITCH, "w", "write", "save to OUTPUT-DIR/<file name> instead of printing"},
+    {wxCMD_LINE_OPTION, nullptr, "settings", "take the templates from this settings file"},
+    {wxCMD_LINE_SWITCH, "h", "help", "show this help", wxCMD_LINE_VAL_NONE, wxCMD_LINE_OPTION_HELP},
+    {wxCMD_LINE_PARAM, nullptr, nullptr, "DIR", wxCMD_LINE_VAL_STRING,
+     wxCMD_LINE_PARAM_OPTIONAL | wxCMD_LINE_PARAM_MULTIPLE},
+    {wxCMD_LINE_NONE}};
+
+void meld(const wxString& tekst)
+{
+    const wxString regel = tekst + "\n";
+    const wxScopedCharBuffer utf8 = regel.utf8_str();
+    std::fwrite(utf8.data(), 1, utf8.length(), stderr);
+}
+
+// Shows what the core logs on stderr and counts the errors among it.
+class FoutTeller : public wxLog
+{
+public:
+    static int aantal;
+
+protected:
+    void DoLogRecord(wxLogLevel niveau, const wxString& tekst, const wxLogRecordInfo&) override
+    {
+        if (niveau > wxLOG_Message)
+            return;
+        if (niveau == wxLOG_Error || niveau == wxLOG_FatalError)
+            ++aantal;
+        meld("klavermol-cli: " + tekst);
+    }
+};
+
+int FoutTeller::aantal = 0;
+
+struct Fout_ : std::runtime_error
+{
+    explicit Fout_(const wxString& tekst) : std::runtime_error(tekst.utf8_string()) {}
+};
+
+// One of a fixed list of words, by its position; the default when absent.
+int kiesWoord(const wxCmdLineParser& parser, const char* optie, std::initializer_list<const char*> woorden)
+{
+    wxString waarde;
+    if (!parser.Found(optie, &waarde))
+        return 0;
+    int i = 0;
+    for (const char* woord : woorden) {
+        if (waarde == woord)
+            return i;
+        ++i;
+    }
+    wxString toegestaan;
+    for (const char* woord : woorden)
+        toegestaan += (toegestaan.empty() ? "" : "|") + wxString(woord);
+    throw Fout_(wxString::Format("--%s must be one of %s, not \"%s\"", optie, toegestaan, waarde));
+}
+
+// A switch by its long name: "--h" (headers) must not be taken for "-h".
+bool heeftSchakelaar(const wxCmdLineParser& parser, const char* langeNaam)
+{
+    for (const wxCmdLineArg& arg : parser.GetArguments())
+        if (arg.GetKind() == wxCMD_LINE_SWITCH && arg.GetLongName() == langeNaam)
+            return true;
+    return false;
+}
+
+wxString absoluut(const wxString& pad)
+{
+    wxFileName f(pad);
+    f.MakeAbsolute();
+    return f.GetFullPath();
+}
+
+// A directory as the main window's pickers hold it: absolute, without a
+// closing separator.
+wxString absoluteMap(const wxString& map)
+{
+    wxFileName f = wxFileName::DirName(map);
+    f.MakeAbsolute();
+    return f.GetPath(wxPATH_GET_VOLUME);
+}
+
+kern::Sjablonen leesSjablonen(const wxCmdLineParser& parser)
+{
+    wxString bestand;
+    std::unique_ptr<wxFileConfig> config;
+    if (parser.Found("settings", &bestand)) {
+        if (!wxFileName::IsFileReadable(bestand))
+            throw Fout_("cannot read the settings file " + bestand);
+        wxFileInputStream stroom(bestand);
+        config = std::make_unique<wxFileConfig>(stroom);
+    } else {
+        config = std::make_unique<wxFileConfig>("Klavermol", "Zelvano", wxString(), wxString(), wxCONFIG_USE_LOCAL_FILE);
+    }
+    config->SetExpandEnvVars(false);
+    config->DisableAutoSave();
+    return kern::leesSjablonen(*config);
+}
+
+// Collects the three lists in command-line order.
+class Verzameling
+{
+public:
+    Verzameling(int modus, const kern::Families& families) : modus(modus), families(families) {}
+
+    void voegMapToe(const wxString& map)
+    {
+        if (!wxFileName::DirExists(map))
+            throw Fout_("no such directory: " + map);
+        wxArrayString gevonden;
+        if (!kern::verzamelBestanden(wxFileName::DirName(absoluteMap(map)).GetFullPath(), modus, families, gevonden))
+            throw Fout_("cannot read the directory " + map);
+        voegBronnenToe(gevonden);
+    }
+
+    void voegBestandToe(const wxString& pad)
+    {
+        if (!wxFileName::FileExists(pad))
+            throw Fout_("no such file: " + pad);
+        voegBronnenToe(wxArrayString(1, absoluut(pad)));
+    }
+
+    void voegSubMapToe(const wxString& waarde)
+    {
+        const wxString map = waarde.BeforeFirst('=');
+        if (!waarde.Contains("=") || map.empty())
+            throw Fout_("--subdir takes DIR=LIBNAME, not \"" + waarde + "\"");
+        const wxFileName lijst(wxFileName::DirName(map).GetFullPath(), "CMakeLists.txt");
+        if (!lijst.FileExists())
+            throw Fout_("The selected dir does not contain a CMakeLists.txt file. (" + map + ")");
+        wxFileName absoluteLijst(lijst);
+        absoluteLijst.MakeAbsolute();
+        const wxString pad = absoluteLijst.GetPath();
+        for (const kern::BiebRegel& b : biebs)
+            if (b.map == pad) {
+                meld(absoluteLijst.GetFullName() + " won't be added since it is already in your selection list.");
+                return;
+            }
+        biebs.push_back({pad, waarde.AfterFirst('='), true});
+    }
+
+    void voegIncludeToe(const wxString& pad)
+    {
+        if (!pad.EndsWith(".cmake"))
+            throw Fout_("not a CMake include file (*.cmake): " + pad);
+        if (!wxFileName::FileExists(pad))
+            throw Fout_("no such file: " + pad);
+        const wxString vol = absoluut(pad);
+        for (const kern::IncludeRegel& i : includes)
+            if (i.pad == vol) {
+                meld(wxFileName(vol).GetFullName() + " won't be added since it is already in your selection list.");
+                return;
+            }
+        includes.push_back({vol, true});
+    }
+
+    // Fills the generator's input: the checked sources, the whole lists.
+    void vulIn(kern::GeneratorInvoer& invoer, const std::set<wxString>& uitgevinkt) const
+    {
+        for (size_t i = 0; i < selektie.aantal(); ++i)
+            if (uitgevinkt.count(selektie.geef(i)) == 0)
+                invoer.bronnen.Add(selektie.geef(i));
+        invoer.biebs = biebs;
+        for (kern::BiebRegel& b : invoer.biebs)
+            b.aangevinkt = uitgevinkt.count(b.map) == 0;
+        invoer.includes = includes;
+        for (kern::IncludeRegel& i : invoer.includes)
+            i.aangevinkt = uitgevinkt.count(i.pad) == 0;
+    }
+
+private:
+    void voegBronnenToe(const wxArrayString& paden)
+    {
+        selektie.voegToe(paden, [](const wxString& pad) {
+            meld(pad + " won't be added since it is already in your selection list.");
+        });
+    }
+
+    int modus;
+    kern::Families families;
+    kern::BronSelektie selektie;
+    std::vector<kern::BiebRegel> biebs;
+    std::vector<kern::IncludeRegel> includes;
+};
+
+int voerUit(const wxCmdLineParser& parser)
+{
+    kern::GeneratorInvoer invoer;
+    invoer.soort = kiesWoord(parser, "kind", {"project", "library", "include"});
+    invoer.projektType = kiesWoord(parser, "project-type", {"standard", "crosscompile"});
+    invoer.biebType = kiesWoord(parser, "library-type", {"static", "dynamic", "object"});
+    const int modus = kiesWoord(parser, "mode", {"directory", "recursive"}) + kern::ModusMap;
+    if (!parser.Found("name", &invoer.naam))
+        invoer.naam = "MyFirstProject";
+    wxString uitvoerDir;
+    parser.Found("output-dir", &uitvoerDir);
+    if (!wxFileName::DirExists(uitvoerDir))
+        throw Fout_("no such output directory: " + uitvoerDir);
+    invoer.uitvoerDir = absoluteMap(uitvoerDir);
+
+    kern::Families families;
+    families.c = heeftSchakelaar(parser, "c");
+    families.cpp = heeftSchakelaar(parser, "cpp");
+    families.h = heeftSchakelaar(parser, "h");
+    families.s = heeftSchakelaar(parser, "asm");
+    if (parser.GetParamCount() > 0 && !(families.c || families.cpp || families.h || families.s))
+        throw Fout_("a DIR needs at least one of --c, --cpp, --h and --asm");
+
+    Verzameling verzameling(modus, families);
+    std::set<wxString> uitgevinkt;
+    for (const wxCmdLineArg& arg : parser.GetArguments()) {
+        if (arg.GetKind() == wxCMD_LINE_PARAM) {
+            verzameling.voegMapToe(arg.GetStrVal());
+            continue;
+        }
+        const wxString naam = arg.GetLongName();
+        if (naam == "file")
+            verzameling.voegBestandToe(arg.GetStrVal());
+        else if (naam == "subdir")
+            verzameling.voegSubMapToe(arg.GetStrVal());
+        else if (naam == "include")
+            verzameling.voegIncludeToe(arg.GetStrVal());
+        else if (naam == "uncheck")
+            uitgevinkt.insert(absoluut(arg.GetStrVal()));
+    }
+    verzameling.vulIn(invoer, uitgevinkt);
+    invoer.sjablonen = leesSjablonen(parser);
+    invoer.datum = kern::geefGeneratieDatum();
+
+    kern::Werklijsten werk;
+    wxString tekst;
+    const int foutenVoor = FoutTeller::aantal;
+    kern::maakUitvoer(invoer, werk, tekst);
+    if (FoutTeller::aantal > foutenVoor)
+        return Fout; // reported already; nothing is printed or written
+
+    if (!heeftSchakelaar(parser, "write")) {
+        const wxScopedCharBuffer utf8 = tekst.utf8_str();
+        std::fwrite(utf8.data(), 1, utf8.length(), stdout);
+        return std::fflush(stdout) == 0 ? Gelukt : Fout;
+    }
+    const wxString bestandNaam = invoer.soort == kern::SoortInclude ? invoer.naam + ".cmake" : "CMakeLists.txt";
+    const wxString pad = wxFileName(invoer.uitvoerDir, bestandNaam).GetFullPath();
+    if (!kern::schrijfTekstBestand(pad, tekst))
+        throw Fout_("Failed to open output file " + pad + " for writing to.");
+    return Gelukt;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    wxInitializer initialiseer(argc, argv);
+    if (!initialiseer.IsOk()) {
+        std::fputs("klavermol-cli: the toolkit could not be initialised\n", stderr);
+        return Fout;
+    }
+    delete wxLog::SetActiveTarget(new FoutTeller);
+    wxCmdLineParser parser(beschrijving, argc, argv);
+    parser.SetLogo("klavermol-cli writes the CMake file Klavermol's Execute would show.");
+    switch (parser.Parse()) {
+    case -1: return Gelukt; // the help was shown
+    case 0: break;
+    default: return VerkeerdGebruik;
+    }
+    try {
+        return voerUit(parser);
+    } catch (const Fout_& fout) {
+        meld(wxString("klavermol-cli: ") + wxString::FromUTF8(fout.what()));
+        return Fout;
+    }
+}

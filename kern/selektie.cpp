@@ -9,15 +9,20 @@ wxArrayString BronSelektie::voegToe(const wxArrayString& paden, const DubbelMeld
     lijst_.reserve(lijst_.size() + paden.size());
     aanwezig_.reserve(aanwezig_.size() + paden.size());
     for (const wxString& pad : paden) {
-        if (!aanwezig_.insert(pad).second) {
-            if (meldDubbel)
-                meldDubbel(pad);
-            continue;
-        }
-        lijst_.push_back(pad);
-        nieuw.Add(pad);
+        if (voegToe(pad))
+            nieuw.Add(pad);
+        else if (meldDubbel)
+            meldDubbel(pad);
     }
     return nieuw;
+}
+
+bool BronSelektie::voegToe(const wxString& pad)
+{
+    if (!aanwezig_.insert(pad).second)
+        return false;
+    lijst_.push_back(pad);
+    return true;
 }
 
 void BronSelektie::wis()

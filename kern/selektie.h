@@ -27,6 +27,9 @@ public:
     // to `meldDubbel` at its place in the order and not added.
     wxArrayString voegToe(const wxArrayString& paden, const DubbelMelder& meldDubbel);
 
+    // One path: appended and true when it is new, false when present.
+    bool voegToe(const wxString& pad);
+
     // Removes every entry.
     void wis();
 

@@ -229,5 +229,8 @@ private:
     void bewaarToestand();
     void zetSchakelaar(StandSchakelaar& schakelaar, int id, wxCheckBox* keuze);
     void wisselSchakelaar(StandSchakelaar& schakelaar);
+    wxArrayString kiesBestanden(const wxString& map);
+    void toonHuidigeLokatie();
+    int voegBronnenToe(const wxArrayString& paden);
     void schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&));
 };

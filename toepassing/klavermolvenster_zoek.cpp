@@ -2,9 +2,16 @@
 // search location and the Add command.
 #include "toepassing/klavermolvenster.h"
 
+#include "desktopAppBasis.h"
 #include "kern/bronzoeker.h"
 
 #include <wx/checkbox.h>
+#include <wx/checklst.h>
+#include <wx/filedlg.h>
+#include <wx/log.h>
+#include <wx/msgdlg.h>
+#include <wx/notebook.h>
+#include <wx/wupdlock.h>
 #include <wx/choice.h>
 #include <wx/filepicker.h>
 #include <wx/menu.h>
@@ -129,6 +136,85 @@ void KlavermolVenster::onderzoekPadOpBestanden()
         outputDirPicker->SetPath(map);
 }
 
+wxArrayString KlavermolVenster::kiesBestanden(const wxString& map)
+{
+    // Translated once, on the first call; the caption is kept beside the
+    // message but not shown.
+    static const wxString melding = _("Please select one or more files from the current directory.");
+    static const wxString kaptie = _("Select source files for your CMake based application.");
+    wxUnusedVar(kaptie);
+
+    wxFileDialog dialoog(this, melding, map, wxString(), bestandTypeFilter,
+                         wxFD_OPEN | wxFD_FILE_MUST_EXIST | wxFD_CHANGE_DIR | wxFD_MULTIPLE);
+    wxArrayString paden;
+    if (dialoog.ShowModal() != wxID_OK)
+        return paden;
+    dialoog.GetPaths(paden);
+    // GTK's chooser reports paths only once it has been on screen.
+    if (paden.empty())
+        dialoog.wxFileDialogBase::GetPaths(paden);
+    wxArrayString volledig;
+    for (const wxString& pad : paden)
+        if (!pad.empty())
+            volledig.Add(wxFileName(pad).GetFullPath(wxPATH_NATIVE));
+    return volledig;
+}
+
+int KlavermolVenster::voegBronnenToe(const wxArrayString& paden)
+{
+    wxBusyCursor bezig;
+    wxArrayString nieuw;
+    nieuw.reserve(paden.size());
+    for (const wxString& pad : paden) {
+        wxLogDebug("OnAddCLick : voeg toe bestand: " + DesktopAppBasis::dubbeleQuotes(pad, false));
+        if (bronSelektie.voegToe(pad))
+            nieuw.Add(pad);
+        else
+            wxLogMessage(pad + _(" won't be added since it is already in your selection list."));
+    }
+    if (nieuw.empty())
+        return 0;
+
+    // One batch for the control, however many files.
+    wxWindowUpdateLocker stil(bestandSelektieLijst);
+    const unsigned int eerste = bestandSelektieLijst->GetCount();
+    bestandSelektieLijst->Append(nieuw);
+    for (unsigned int i = eerste; i < bestandSelektieLijst->GetCount(); ++i)
+        bestandSelektieLijst->Check(i);
+    return static_cast<int>(nieuw.size());
+}
+
 void KlavermolVenster::OnAddClick(wxCommandEvent&)
 {
+    const wxFileName zoekMap = wxFileName::DirName(vindBestandenInDirs->GetPath());
+    const wxString map = zoekMap.GetFullPath();
+    wxArrayString gevonden;
+    const int modus = voegToeModeKeuze->GetSelection();
+    if (modus == kern::ModusBestanden) {
+        gevonden = kiesBestanden(map);
+    } else if (modus == kern::ModusMap || modus == kern::ModusRecursief) {
+        wxBusyCursor bezig;
+        const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
+                                                voegSBestandenToe);
+        if (!kern::verzamelBestanden(map, modus, aan, gevonden))
+            wxFAIL_COND_MSG(true == mag, "(KlavermolVenster::OnAddClick) " + map);
+    }
+
+    const int aantal = static_cast<int>(gevonden.size());
+    wxLogDebug("The selected directory resulted in the addition of %d files", aantal);
+    int toegevoegd = 0;
+    const bool verder = aantal <= 10
+        || wxMessageBox(wxString::Format(_("%d files were found and will be added to the selection list.\nDo you "
+                                           "want to proceed?"),
+                                         aantal),
+                        _("More than 10 files found"), wxYES_NO | wxICON_QUESTION, this) == wxYES;
+    if (verder)
+        toegevoegd = voegBronnenToe(gevonden);
+
+    PopStatusText(0);
+    PushStatusText(wxString::Format(_("A total of %d files and dirs was found in "), toegevoegd) + zoekMap.GetFullName()
+                       + _(" and added to the selection."),
+                   0);
+    selektieBoek->SetSelection(0);
+    recenteLokaties.AddFileToHistory(map);
 }

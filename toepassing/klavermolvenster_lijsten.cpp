@@ -55,9 +55,15 @@ void KlavermolVenster::OnSELECTALLClick(wxCommandEvent& event)
     zetAlleVinkjes(selektieBoek->GetSelection() == 0 ? bestandSelektieLijst : biebLijst, aan);
 }
 
-void KlavermolVenster::OnBestandSelektieLijstIDDoubleClicked(wxCommandEvent&)
+void KlavermolVenster::OnBestandSelektieLijstIDDoubleClicked(wxCommandEvent& event)
 {
-    const wxString map = mapVan(bestandSelektieLijst->GetStringSelection());
+    // The double-clicked entry: on this multiple-selection list the toolkit's
+    // single-selection query is not available, the event names the entry.
+    const int rij = event.GetInt();
+    const wxString gekozen = rij >= 0 && static_cast<unsigned>(rij) < bestandSelektieLijst->GetCount()
+        ? bestandSelektieLijst->GetString(static_cast<unsigned>(rij))
+        : wxString();
+    const wxString map = mapVan(gekozen);
     const wxArrayString regels = bestandSelektieLijst->GetStrings();
     if (regels.empty())
         return;

@@ -4,6 +4,7 @@
 #include "kern/instellingen.h"
 #include "toepassing/bestanddroptarget.h"
 #include "toepassing/klavermol.h"
+#include "toepassing/lijstblok.h"
 
 #include <wx/checkbox.h>
 #include <wx/dir.h>
@@ -148,6 +149,11 @@ bool KlavermolVenster::Create(wxWindow* ouder, wxWindowID id, const wxString& ti
 KlavermolVenster::~KlavermolVenster()
 {
     bewaarToestand();
+    // Emptied in one block each: row by row the toolkit takes long on big lists.
+    for (wxCheckListBox* lijst : {bestandSelektieLijst, biebLijst, includeLijst}) {
+        LijstBlok blok(lijst);
+        lijst->Clear();
+    }
 }
 
 bool KlavermolVenster::mapHeeftCMakeLists(const wxString& bestandPad)

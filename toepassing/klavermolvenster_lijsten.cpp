@@ -1,11 +1,12 @@
 // Operations on the three checked lists: clear, select all, double click.
 #include "toepassing/klavermolvenster.h"
 
+#include "toepassing/lijstblok.h"
+
 #include <wx/checklst.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
 #include <wx/tglbtn.h>
-#include <wx/wupdlock.h>
 
 namespace {
 
@@ -17,7 +18,7 @@ wxString mapVan(const wxString& pad)
 
 void zetAlleVinkjes(wxCheckListBox* lijst, bool aan)
 {
-    wxWindowUpdateLocker stil(lijst);
+    LijstBlok blok(lijst);
     for (unsigned int i = 0; i < lijst->GetCount(); ++i)
         lijst->Check(i, aan);
 }
@@ -36,7 +37,10 @@ void KlavermolVenster::OnClearClick(wxCommandEvent&)
                          this) != wxYES)
             return;
     }
-    lijst->Clear();
+    {
+        LijstBlok blok(lijst);
+        lijst->Clear();
+    }
     if (lijst == bestandSelektieLijst)
         bronSelektie.wis();
     else if (lijst == biebLijst) {
@@ -67,7 +71,7 @@ void KlavermolVenster::OnBestandSelektieLijstIDDoubleClicked(wxCommandEvent& eve
     const wxArrayString regels = bestandSelektieLijst->GetStrings();
     if (regels.empty())
         return;
-    wxWindowUpdateLocker stil(bestandSelektieLijst);
+    LijstBlok blok(bestandSelektieLijst);
     for (unsigned int i = 0; i < regels.size(); ++i)
         if (mapVan(regels[i]) == map)
             bestandSelektieLijst->Check(i, !bestandSelektieLijst->IsChecked(i));

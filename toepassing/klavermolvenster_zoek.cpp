@@ -4,6 +4,7 @@
 
 #include "desktopAppBasis.h"
 #include "kern/bronzoeker.h"
+#include "toepassing/lijstblok.h"
 
 #include <wx/checkbox.h>
 #include <wx/checklst.h>
@@ -11,7 +12,6 @@
 #include <wx/log.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
-#include <wx/wupdlock.h>
 #include <wx/choice.h>
 #include <wx/filepicker.h>
 #include <wx/menu.h>
@@ -175,8 +175,8 @@ int KlavermolVenster::voegBronnenToe(const wxArrayString& paden)
     if (nieuw.empty())
         return 0;
 
-    // One batch for the control, however many files.
-    wxWindowUpdateLocker stil(bestandSelektieLijst);
+    // One block for the control, however many files.
+    LijstBlok blok(bestandSelektieLijst);
     const unsigned int eerste = bestandSelektieLijst->GetCount();
     bestandSelektieLijst->Append(nieuw);
     for (unsigned int i = eerste; i < bestandSelektieLijst->GetCount(); ++i)

@@ -1,0 +1,186 @@
+// klavermol-bench: the real main window on a real tree, timed.
+//   klavermol-bench add DIR       the probe and Add, recursive, all families
+//   klavermol-bench execute DIR   Add, then Execute for a project in DIR
+// Prints key=value lines. Needs a display (Xvfb will do).
+#include "kern/bronzoeker.h"
+#include "toepassing/klavermol.h"
+#include "toepassing/klavermolvenster.h"
+
+#include <wx/checklst.h>
+#include <wx/choice.h>
+#include <wx/filepicker.h>
+#include <wx/init.h>
+#include <wx/msgdlg.h>
+#include <wx/testing.h>
+#include <wx/textctrl.h>
+#include <wx/tglbtn.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <string>
+
+namespace {
+
+double meet(const std::function<void()>& werk)
+{
+    const auto begin = std::chrono::steady_clock::now();
+    werk();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+// Runs a shell command, returns its seconds; the output is counted in lines.
+double meetOpdracht(const std::string& opdracht, long* regels = nullptr)
+{
+    long n = 0;
+    const double s = meet([&] {
+        FILE* p = popen(opdracht.c_str(), "r");
+        char regel[4096];
+        while (p != nullptr && fgets(regel, sizeof regel, p) != nullptr)
+            ++n;
+        if (p != nullptr)
+            pclose(p);
+    });
+    if (regels)
+        *regels = n;
+    return s;
+}
+
+long piekMb()
+{
+    std::ifstream status("/proc/self/status");
+    std::string regel;
+    while (std::getline(status, regel))
+        if (regel.rfind("VmHWM:", 0) == 0)
+            return std::atol(regel.c_str() + 6) / 1024;
+    return -1;
+}
+
+std::string vindOpdracht(const std::string& map)
+{
+    return "find '" + map + "' -type f \\( -name '*.c' -o -name '*.h' -o -name '*.cpp' -o -name '*.cxx' -o -name "
+                            "'*.hpp' -o -name '*.s' -o -name '*.S' \\)";
+}
+
+void print(const char* sleutel, double waarde)
+{
+    std::printf("%s=%.3f\n", sleutel, waarde);
+}
+
+// Points the window at the tree with every family on, recursively, and adds.
+double voegToe(KlavermolVenster& v, const wxString& map)
+{
+    v.voegCBestandenToe = true;
+    v.voegCPPBestandenToe = true;
+    v.voegHBestandenToe = true;
+    v.voegSBestandenToe = true;
+    v.OnSelekteerBestandType();
+    v.voegToeModeKeuze->SetSelection(kern::ModusRecursief);
+    v.vindBestandenInDirs->SetPath(map);
+    return meet([&] {
+        v.onderzoekPadOpBestanden();
+        wxCommandEvent klik(wxEVT_BUTTON, wxID_ADD);
+        wxTEST_DIALOG(v.ProcessWindowEvent(klik), wxExpectModal<wxMessageDialog>(wxYES).Optional());
+    });
+}
+
+void klikSelekteerAlles(KlavermolVenster& v, bool aan)
+{
+    v.selekteerAllesKnop->SetValue(aan);
+    wxCommandEvent e(wxEVT_TOGGLEBUTTON, wxID_SELECTALL);
+    e.SetInt(aan);
+    v.ProcessWindowEvent(e);
+}
+
+int meetToevoegen(KlavermolVenster& v, const std::string& map)
+{
+    wxArrayString gevonden;
+    kern::Families alles;
+    alles.c = alles.cpp = alles.h = alles.s = true;
+    const double walk = meet([&] {
+        kern::verzamelBestanden(wxFileName::DirName(map).GetFullPath(), kern::ModusRecursief, alles, gevonden);
+    });
+    const double find = meetOpdracht(vindOpdracht(map));
+    const double add = voegToe(v, map);
+    std::printf("files=%u\n", v.bestandSelektieLijst->GetCount());
+    print("walk_s", walk);
+    print("find_s", find);
+    print("walk_vs_find", walk / find);
+    print("add_s", add);
+    std::printf("peak_mb=%ld\n", piekMb());
+    print("selectall_s", meet([&] { klikSelekteerAlles(v, true); }));
+    print("deselectall_s", meet([&] { klikSelekteerAlles(v, false); }));
+    print("toggle_s", meet([&] {
+        wxCommandEvent dubbel(wxEVT_LISTBOX_DCLICK, BestandSelektieLijstID);
+        dubbel.SetInt(0);
+        v.ProcessWindowEvent(dubbel);
+    }));
+    print("clear_s", meet([&] {
+        wxCommandEvent klik(wxEVT_BUTTON, wxID_CLEAR);
+        wxTEST_DIALOG(v.ProcessWindowEvent(klik), wxExpectModal<wxMessageDialog>(wxYES).Optional());
+    }));
+    return 0;
+}
+
+int meetUitvoeren(KlavermolVenster& v, const std::string& map, const std::string& cli)
+{
+    voegToe(v, map);
+    v.uitvoerSoortKeuze->SetSelection(kern::SoortProjekt);
+    v.outputDirPicker->SetPath(map);
+    const double uitvoeren = meet([&] {
+        wxCommandEvent klik(wxEVT_BUTTON, wxID_APPLY);
+        v.ProcessWindowEvent(klik);
+    });
+    const double find = meetOpdracht(vindOpdracht(map));
+    const double cliTijd =
+        meetOpdracht("'" + cli + "' -o '" + map + "' -m recursive --c --cpp --h --asm '" + map + "' > /dev/null");
+    std::printf("files=%u\n", v.bestandSelektieLijst->GetCount());
+    print("execute_s", uitvoeren);
+    std::printf("text_bytes=%zu\n", v.uitvoerTekst->GetValue().utf8_str().length());
+    print("cli_s", cliTijd);
+    print("find_s", find);
+    print("cli_vs_find", cliTijd / find);
+    std::printf("peak_mb=%ld\n", piekMb());
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 3 || (std::string(argv[1]) != "add" && std::string(argv[1]) != "execute")) {
+        std::fprintf(stderr, "usage: klavermol-bench add|execute DIR\n");
+        return 2;
+    }
+    const std::string soort = argv[1];
+    const std::string map = wxFileName::DirName(argv[2]).GetPath().ToStdString();
+    const std::string cli = (wxFileName(argv[0]).GetPath() + "/klavermol-cli").ToStdString();
+
+    // A private home, so that the user's settings are neither read nor changed.
+    char sjabloon[] = "/tmp/klavermol-bench-XXXXXX";
+    const char* thuis = mkdtemp(sjabloon);
+    setenv("HOME", thuis, 1);
+    std::ofstream(std::string(thuis) + "/.Klavermol") << "[Gebruikersinstellingen]\nEncoding=" << wxLANGUAGE_ENGLISH
+                                                      << "\n";
+
+    new Klavermol;
+    int argcWx = 1;
+    if (!wxEntryStart(argcWx, argv) || !wxTheApp->CallOnInit()) {
+        std::fprintf(stderr, "klavermol-bench: the program could not start (is there a display?)\n");
+        return 1;
+    }
+    wxLog::EnableLogging(false); // duplicate messages would otherwise pile up
+    KlavermolVenster& venster = *wxGetApp().geefVenster();
+    const int uitslag = soort == "add" ? meetToevoegen(venster, map) : meetUitvoeren(venster, map, cli);
+    wxLog::EnableLogging(true);
+    const double sluiten = meet([&] {
+        venster.Destroy();
+        wxTheApp->OnExit();
+        wxEntryCleanup();
+    });
+    print("close_s", sluiten);
+    wxFileName::Rmdir(thuis, wxPATH_RMDIR_RECURSIVE);
+    return uitslag;
+}

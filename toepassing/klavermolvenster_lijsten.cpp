@@ -18,7 +18,8 @@ wxString mapVan(const wxString& pad)
 
 void zetAlleVinkjes(wxCheckListBox* lijst, bool aan)
 {
-    LijstBlok blok(lijst);
+    // Not frozen: a frozen GTK list takes its model away, and every check
+    // then makes its selection handler complain.
     for (unsigned int i = 0; i < lijst->GetCount(); ++i)
         lijst->Check(i, aan);
 }
@@ -37,10 +38,7 @@ void KlavermolVenster::OnClearClick(wxCommandEvent&)
                          this) != wxYES)
             return;
     }
-    {
-        LijstBlok blok(lijst);
-        lijst->Clear();
-    }
+    leegLijst(lijst);
     if (lijst == bestandSelektieLijst)
         bronSelektie.wis();
     else if (lijst == biebLijst) {
@@ -71,7 +69,8 @@ void KlavermolVenster::OnBestandSelektieLijstIDDoubleClicked(wxCommandEvent& eve
     const wxArrayString regels = bestandSelektieLijst->GetStrings();
     if (regels.empty())
         return;
-    LijstBlok blok(bestandSelektieLijst);
+    // Not frozen: a frozen GTK list takes its model away, and every check
+    // then makes its selection handler complain.
     for (unsigned int i = 0; i < regels.size(); ++i)
         if (mapVan(regels[i]) == map)
             bestandSelektieLijst->Check(i, !bestandSelektieLijst->IsChecked(i));

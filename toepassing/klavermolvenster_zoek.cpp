@@ -4,7 +4,6 @@
 
 #include "desktopAppBasis.h"
 #include "kern/bronzoeker.h"
-#include "toepassing/lijstblok.h"
 
 #include <wx/checkbox.h>
 #include <wx/checklst.h>
@@ -175,8 +174,9 @@ int KlavermolVenster::voegBronnenToe(const wxArrayString& paden)
     if (nieuw.empty())
         return 0;
 
-    // One block for the control, however many files.
-    LijstBlok blok(bestandSelektieLijst);
+    // One batch for the control, however many files.
+    // Not frozen: a frozen GTK list takes its model away, and every check
+    // then makes its selection handler complain.
     const unsigned int eerste = bestandSelektieLijst->GetCount();
     bestandSelektieLijst->Append(nieuw);
     for (unsigned int i = eerste; i < bestandSelektieLijst->GetCount(); ++i)

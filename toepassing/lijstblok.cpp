@@ -4,27 +4,21 @@
 #include <gtk/gtk.h>
 #endif
 
-LijstBlok::LijstBlok(wxCheckListBox* lijst) : lijst(lijst)
-{
-    lijst->Freeze();
-#ifdef __WXGTK__
-    GtkTreeModel* m = gtk_tree_view_get_model(lijst->m_treeview);
-    if (m != nullptr) {
-        g_object_ref(m);
-        gtk_tree_view_set_model(lijst->m_treeview, nullptr);
-        model = m;
-    }
-#endif
-}
-
-LijstBlok::~LijstBlok()
+void leegLijst(wxCheckListBox* lijst)
 {
 #ifdef __WXGTK__
-    if (model != nullptr) {
-        GtkTreeModel* m = static_cast<GtkTreeModel*>(model);
-        gtk_tree_view_set_model(lijst->m_treeview, m);
-        g_object_unref(m);
-    }
+    // Taking the model from the view changes its selection; the list's own
+    // selection handler must not look at the rows meanwhile.
+    lijst->GTKDisableEvents();
+    GtkTreeModel* model = gtk_tree_view_get_model(lijst->m_treeview);
+    g_object_ref(model);
+    gtk_tree_view_set_model(lijst->m_treeview, nullptr);
+    gtk_list_store_clear(lijst->m_liststore);
+    gtk_tree_view_set_model(lijst->m_treeview, model);
+    g_object_unref(model);
+    lijst->GTKEnableEvents();
+    lijst->InvalidateBestSize();
+#else
+    lijst->Clear();
 #endif
-    lijst->Thaw();
 }

@@ -53,6 +53,36 @@ wxString relatieveMap(const wxString& map, const wxString& uitvoerDir)
     return rel.empty() ? uitvoerMapNaam : rel;
 }
 
+// A source's directory, name and extension as the toolkit's file name object
+// gives them; plain absolute paths are split by hand, for speed, anything
+// else goes through the toolkit.
+struct Delen
+{
+    wxString map, naam, extensie;
+};
+
+Delen splits(const wxString& pad)
+{
+    const size_t slash = pad.rfind(wxFILE_SEP_PATH);
+    const bool eenvoudig = wxFILE_SEP_PATH == '/' && slash != wxString::npos && slash > 0 && pad[0] == '/'
+        && slash + 1 < pad.length() && pad.find("//") == wxString::npos && pad.find("/./") == wxString::npos
+        && pad.find("/../") == wxString::npos;
+    Delen delen;
+    if (!eenvoudig) {
+        const wxFileName f(pad);
+        delen.map = f.GetPath();
+        delen.naam = f.GetFullName();
+        delen.extensie = f.GetExt();
+        return delen;
+    }
+    delen.map = pad.substr(0, slash);
+    delen.naam = pad.substr(slash + 1);
+    const size_t punt = delen.naam.rfind('.');
+    if (punt != wxString::npos && punt > 0)
+        delen.extensie = delen.naam.substr(punt + 1);
+    return delen;
+}
+
 // Collects the checked sources into the working lists, with index maps
 // beside them so that every look-up stays cheap for tens of thousands of
 // files while giving the results of the list searches they stand for.
@@ -68,15 +98,18 @@ public:
     // False when a source lies on another volume than the output directory.
     bool voegToe(const wxString& bron)
     {
-        const wxFileName bestand(bron);
-        if (geefVolumeNaad()(bestand) != uitvoerVolume)
+        const Delen delen = splits(bron);
+        auto volume = zelfdeVolume.find(delen.map);
+        if (volume == zelfdeVolume.end())
+            volume = zelfdeVolume.emplace(delen.map, geefVolumeNaad()(wxFileName::DirName(delen.map)) == uitvoerVolume)
+                         .first;
+        if (!volume->second)
             return false;
-        const bool isHeader = bestand.GetExt() == "h";
-        const wxString map = bestand.GetPath();
-        if (invoer.soort != SoortInclude && map == invoer.uitvoerDir)
-            voegToeInUitvoerMap(bestand, isHeader);
+        const bool isHeader = delen.extensie == "h";
+        if (invoer.soort != SoortInclude && delen.map == invoer.uitvoerDir)
+            voegToeInUitvoerMap(delen.naam, isHeader);
         else
-            voegToeRelatief(bestand, map, isHeader);
+            voegToeRelatief(bron, delen.map, delen.naam, isHeader);
         return true;
     }
 
@@ -87,11 +120,11 @@ public:
     }
 
 private:
-    void voegToeRelatief(const wxFileName& bestand, const wxString& map, bool isHeader)
+    void voegToeRelatief(const wxString& bron, const wxString& map, const wxString& naam, bool isHeader)
     {
         auto rel = relatief.find(map);
         if (rel == relatief.end()) {
-            wxFileName f(bestand);
+            wxFileName f(bron);
             f.MakeRelativeTo(invoer.uitvoerDir);
             rel = relatief.emplace(map, metSlashes(f.GetPath())).first;
         }
@@ -111,10 +144,10 @@ private:
         }
         if (groepVanMap[i] < 0)
             maakGroep(i);
-        voegNaamToe(static_cast<size_t>(groepVanMap[i]), bestand.GetFullName());
+        voegNaamToe(static_cast<size_t>(groepVanMap[i]), naam);
     }
 
-    void voegToeInUitvoerMap(const wxFileName& bestand, bool isHeader)
+    void voegToeInUitvoerMap(const wxString& naam, bool isHeader)
     {
         auto [plek, nieuw] = dirIndex.emplace(uitvoerMapNaam, werk.dirLijst.size());
         if (nieuw) {
@@ -131,7 +164,7 @@ private:
         }
         if (appendGroep < 0)
             maakUitvoerGroep();
-        voegNaamToe(static_cast<size_t>(appendGroep), bestand.GetFullName());
+        voegNaamToe(static_cast<size_t>(appendGroep), naam);
     }
 
     void maakGroep(size_t map)
@@ -179,6 +212,7 @@ private:
     const wxString uitvoerVolume = geefVolumeNaad()(wxFileName::DirName(invoer.uitvoerDir));
     std::unordered_map<wxString, size_t> dirIndex;
     std::unordered_map<wxString, wxString> relatief; // directory of a source -> its relative form
+    std::unordered_map<wxString, bool> zelfdeVolume; // directory of a source -> on the output's volume
     std::vector<int> groepVanMap;                    // per directory: its group, or -1
     std::unordered_set<size_t> includeMappen;
     bool uitvoerInclude = false;

@@ -114,27 +114,14 @@ TEST_F(Bronnen, ElevenFilesAskFirstAndNoAddsNothing)
     start();
     schakel(VoegCBestandenToeID);
     zoekIn(thuis + "/d", 1);
-    class Vraag : public wxExpectModalBase<wxMessageDialog, Vraag>
-    {
-    public:
-        explicit Vraag(int antwoord) : antwoord(antwoord) {}
-
-    protected:
-        int OnInvoked(wxMessageDialog* dlg) const override
-        {
-            EXPECT_EQ(dlg->GetMessage() + dlg->GetExtendedMessage(),
-                      "11 files were found and will be added to the selection list.\nDo you want to proceed?");
-            EXPECT_EQ(dlg->GetTitle(), "More than 10 files found");
-            return antwoord;
-        }
-
-    private:
-        int antwoord;
+    const auto vraag = [](int antwoord) {
+        return BeantwoordVraag("11 files were found and will be added to the selection list.\nDo you want to proceed?",
+                               "More than 10 files found", antwoord);
     };
-    wxTEST_DIALOG(voegToe(), Vraag(wxID_NO));
+    wxTEST_DIALOG(voegToe(), vraag(wxID_NO));
     EXPECT_TRUE(lijst().empty());
     EXPECT_EQ(status(), "A total of 0 files and dirs was found in  and added to the selection.");
-    wxTEST_DIALOG(voegToe(), Vraag(wxID_YES));
+    wxTEST_DIALOG(voegToe(), vraag(wxID_YES));
     EXPECT_EQ(lijst().size(), 11u);
 }
 

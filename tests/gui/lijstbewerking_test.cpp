@@ -52,26 +52,13 @@ TEST_F(Lijstbewerking, ClearAsksFromTenEntriesOn)
     EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 0u);
 
     vul(v.bestandSelektieLijst, 10);
-    class Vraag : public wxExpectModalBase<wxMessageDialog, Vraag>
-    {
-    public:
-        explicit Vraag(int antwoord) : antwoord(antwoord) {}
-
-    protected:
-        int OnInvoked(wxMessageDialog* dlg) const override
-        {
-            EXPECT_EQ(dlg->GetMessage() + dlg->GetExtendedMessage(),
-                      "10 files are present the visible selection list.\nDo you want to remove them all?");
-            EXPECT_EQ(dlg->GetTitle(), "More than 10 files found");
-            return antwoord;
-        }
-
-    private:
-        int antwoord;
+    const auto vraag = [](int antwoord) {
+        return BeantwoordVraag("10 files are present the visible selection list.\nDo you want to remove them all?",
+                               "More than 10 files found", antwoord);
     };
-    wxTEST_DIALOG(klik(wxID_CLEAR), Vraag(wxID_NO));
+    wxTEST_DIALOG(klik(wxID_CLEAR), vraag(wxID_NO));
     EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 10u);
-    wxTEST_DIALOG(klik(wxID_CLEAR), Vraag(wxID_YES));
+    wxTEST_DIALOG(klik(wxID_CLEAR), vraag(wxID_YES));
     EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 0u);
 }
 

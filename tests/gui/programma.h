@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <wx/fileconf.h>
 #include <wx/log.h>
+#include <wx/msgdlg.h>
+#include <wx/testing.h>
 
 #include <memory>
 #include <string>
@@ -59,6 +61,26 @@ private:
     bool gestart = false;
     int eersteTaal = -1;
     std::string instellingen;
+};
+
+// Answers a Yes/No question after checking its text and caption.
+class BeantwoordVraag : public wxExpectModalBase<wxMessageDialog, BeantwoordVraag>
+{
+public:
+    BeantwoordVraag(const wxString& tekst, const wxString& titel, int antwoord)
+        : tekst(tekst), titel(titel), antwoord(antwoord) {}
+
+protected:
+    int OnInvoked(wxMessageDialog* dlg) const override
+    {
+        EXPECT_EQ(dlg->GetMessage() + dlg->GetExtendedMessage(), tekst);
+        EXPECT_EQ(dlg->GetTitle(), titel);
+        return antwoord;
+    }
+
+private:
+    wxString tekst, titel;
+    int antwoord;
 };
 
 inline void PrintTo(const wxString& s, std::ostream* os)

@@ -19,3 +19,13 @@ set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "wx3.2-i18n")
 include(CPack)
+
+# The installation, checked as a test. The language numbers the test pins
+# are the toolkit's own, written at build time.
+add_executable(klavermol-taalnummers ${CMAKE_SOURCE_DIR}/tools/taalnummers.cpp)
+target_link_libraries(klavermol-taalnummers PRIVATE wx_basis)
+add_custom_command(TARGET klavermol-taalnummers POST_BUILD
+  COMMAND klavermol-taalnummers ${CMAKE_BINARY_DIR}/taalnummers)
+add_test(NAME Installatie.InstallsAndStartsInGermanAndDutch
+         COMMAND ${CMAKE_SOURCE_DIR}/tools/installatietest.sh ${CMAKE_BINARY_DIR})
+set_tests_properties(Installatie.InstallsAndStartsInGermanAndDutch PROPERTIES LABELS gui)

@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# Installs the build into a temporary prefix and checks the installation:
+# the files are where the program looks for them, the desktop entry and the
+# metainfo validate, and the installed program starts in German and Dutch
+# with its catalogues from the prefix. Needs a display (ctest runs it under
+# the one ./test provides).
+set -euo pipefail
+bouw="$1"
+prefix=$(mktemp -d /tmp/klavermol-installatie-XXXXXX)
+thuis=$(mktemp -d /tmp/klavermol-thuis-XXXXXX)
+trap 'rm -rf "$prefix" "$thuis"' EXIT
+
+cmake --install "$bouw" --prefix "$prefix" >/dev/null
+
+fout=0
+controleer() { if ! "$@"; then echo "FAILED: $*"; fout=1; fi; }
+for taal in de nl en; do
+    for domein in Klavermol Zelvanodesktop; do
+        controleer test -f "$prefix/share/Zelvano/Klavermol/locale/$taal/LC_MESSAGES/$domein.mo"
+    done
+done
+for beeld in thuis.png uitvoeren.png klavermol.jpg zelvano_zeerklein.jpg; do
+    controleer test -f "$prefix/share/klavermol/ikonen/$beeld"
+done
+controleer test -x "$prefix/bin/klavermol"
+controleer test -x "$prefix/bin/klavermol-cli"
+controleer test -f "$prefix/share/icons/hicolor/48x48/apps/klavermol.png"
+controleer desktop-file-validate "$prefix/share/applications/nl.zelvano.Klavermol.desktop"
+controleer appstreamcli validate --no-net "$prefix/share/metainfo/nl.zelvano.Klavermol.metainfo.xml"
+
+# The installed program, started with each language pinned in its settings
+# and closed as a user would (Ctrl+Q): it found the catalogues below its own
+# prefix when the name it wrote back at exit is the translated default.
+start_in_taal() {
+    local taal="$1" naam="$2"
+    printf '[Gebruikersinstellingen]\nEncoding=%s\n' "$taal" > "$thuis/.Klavermol"
+    HOME="$thuis" "$prefix/bin/klavermol" > "$thuis/uitvoer.txt" 2>&1 &
+    local pid=$! venster=""
+    for _ in $(seq 50); do
+        venster=$(xdotool search --onlyvisible --pid "$pid" 2>/dev/null | head -n 1) && [ -n "$venster" ] && break
+        sleep 0.1
+    done
+    sleep 0.5
+    controleer test -n "$venster"
+    xdotool windowfocus --sync "$venster" key ctrl+q 2>/dev/null || true
+    for _ in $(seq 50); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
+    if kill -0 "$pid" 2>/dev/null; then echo "FAILED: Ctrl+Q did not close the program"; fout=1; kill "$pid"; fi
+    wait "$pid" 2>/dev/null || true
+    controleer grep -q "^Projektnaam=$naam\$" "$thuis/.Klavermol"
+}
+start_in_taal "$(cat "$bouw/taalnummers/duits")" MeinErstesProjekt
+start_in_taal "$(cat "$bouw/taalnummers/nederlands")" MijnEersteProject
+
+if [ $fout = 0 ]; then echo "1 passed, 0 failed"; else echo "0 passed, 1 failed"; fi
+exit $fout

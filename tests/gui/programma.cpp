@@ -8,6 +8,7 @@
 #include <wx/wfstream.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -76,10 +77,13 @@ void ProgrammaTest::SetUp()
     verwacht.clear();
     alleLog.clear();
 
+    // A test may continue in the home of an earlier run (a restart).
+    const char* vorige = std::getenv(vorigThuis);
     char sjabloon[] = "/tmp/klavermol-test-XXXXXX";
-    const char* map = mkdtemp(sjabloon);
+    const char* map = vorige != nullptr ? vorige : mkdtemp(sjabloon);
     ASSERT_NE(map, nullptr);
     thuis = map;
+    eigenThuis = vorige == nullptr;
     setenv("HOME", map, 1);
     setenv("XDG_CONFIG_HOME", (thuis + "/.config").ToStdString().c_str(), 1);
     // A fixed system language, so that nothing depends on the machine.
@@ -97,7 +101,16 @@ void ProgrammaTest::TearDown()
     if (HasFailure())
         for (const LogRegel& r : alleLog)
             std::cerr << "log " << r.niveau << ": " << r.tekst.utf8_string() << "\n";
-    wxFileName::Rmdir(thuis, wxPATH_RMDIR_RECURSIVE);
+    if (eigenThuis)
+        wxFileName::Rmdir(thuis, wxPATH_RMDIR_RECURSIVE);
+}
+
+int ProgrammaTest::startOpnieuw(const std::string& filter)
+{
+    const std::string opdracht = std::string(vorigThuis) + "=" + thuis.ToStdString() + " '" +
+                                 std::filesystem::read_symlink("/proc/self/exe").string() +
+                                 "' --gtest_filter=" + filter;
+    return std::system(opdracht.c_str());
 }
 
 void ProgrammaTest::schrijfInstellingen(const std::string& inhoud)

@@ -57,7 +57,14 @@ protected:
 
     wxString thuis;
 
+    // Runs the given test of this program in a new process in the same home,
+    // as the next start of the program; returns its exit status.
+    int startOpnieuw(const std::string& filter);
+    static constexpr const char* vorigThuis = "KLAVERMOL_VORIG_THUIS";
+    bool isVervolg() const { return !eigenThuis; }
+
 private:
+    bool eigenThuis = true;
     bool gestart = false;
     int eersteTaal = -1;
     std::string instellingen;

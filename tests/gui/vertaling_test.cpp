@@ -4,6 +4,7 @@
 
 #include <wx/menu.h>
 #include <wx/notebook.h>
+#include <wx/testing.h>
 #include <wx/textctrl.h>
 
 #include <clocale>
@@ -49,4 +50,25 @@ TEST_F(Vertaling, AnEnglishVariantFindsItsCatalogueWithoutComplaint)
     verwachtTaal(wxLANGUAGE_ENGLISH_US, "en_US.UTF-8");
     EXPECT_EQ(venster().GetMenuBar()->GetMenuLabelText(0), "General");
     EXPECT_TRUE(heeftLog(wxLOG_Debug, "Zelvano katalogus voor taal : English (United States) met succes toegevoegd."));
+}
+
+TEST_F(Vertaling, TheChosenLanguageIsInForceAfterTheRestart)
+{
+    start();
+    wxTEST_DIALOG(app().zetTaal(wxLANGUAGE_GERMAN), wxExpectModal<wxMessageDialog>(wxYES));
+    ASSERT_EQ(procesStappen.size(), 2u); // the new process was asked for, then the exit
+    stop();
+    EXPECT_EQ(startOpnieuw("Vertaling.NaDeHerstart"), 0);
+}
+
+// The next start of the program above; only run from there.
+TEST_F(Vertaling, NaDeHerstart)
+{
+    if (!isVervolg())
+        GTEST_SKIP() << "runs as the restart of TheChosenLanguageIsInForceAfterTheRestart";
+    zetTaal(-1); // the language comes from the store the first run left
+    start();
+    EXPECT_EQ(app().geefTaal(), wxLANGUAGE_GERMAN);
+    EXPECT_EQ(venster().GetMenuBar()->GetMenuLabelText(0), "Allgemein");
+    EXPECT_TRUE(app().isTaalGekozen());
 }

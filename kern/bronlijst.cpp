@@ -38,6 +38,37 @@ wxString metSlashes(wxString pad)
     return pad;
 }
 
+// CMake reads an unquoted argument up to white space, and gives "()#$\"
+// and the backslash meanings of their own. Names without them are written
+// as they are; others go between double quotes, with the characters that
+// mean something there escaped. (A ";" separates list elements in any
+// form; CMake cannot keep it inside a source name.)
+bool isGewoon(const wxString& tekst)
+{
+    for (const wxUniChar c : tekst)
+        if (c <= ' ' || c == '"' || c == '(' || c == ')' || c == '#' || c == '$' || c == '\\' || c == 0x7f)
+            return false;
+    return true;
+}
+
+wxString ontsnap(const wxString& tekst)
+{
+    wxString uit;
+    for (const wxUniChar c : tekst) {
+        if (c == '\\' || c == '"' || c == '$')
+            uit += '\\';
+        uit += c;
+    }
+    return uit;
+}
+
+// An argument made of a fixed start (variable references, kept as they
+// are) and a name, quoted only when the name needs it.
+wxString cmakeArgument(const wxString& begin, const wxString& naam)
+{
+    return isGewoon(naam) ? begin + naam : "\"" + begin + ontsnap(naam) + "\"";
+}
+
 wxString srcPad(size_t i)
 {
     return wxString::Format("${SrcPath%d}", static_cast<int>(i));
@@ -203,7 +234,7 @@ private:
         wxString& regel = werk.groepNamen[groep];
         const size_t tab = regel.rfind('\t');
         const size_t lengte = tab == wxString::npos ? regel.length() : regel.length() - tab;
-        regel += naam;
+        regel += cmakeArgument(wxString(), naam);
         regel += lengte > 80 ? " \n\t" : " ";
     }
 
@@ -224,7 +255,8 @@ void schrijfSrcPaden(const GeneratorInvoer& invoer, const Werklijsten& werk, wxS
     const size_t type = static_cast<size_t>(invoer.projektType);
     const wxString basis = type < WXSIZEOF(padBasis) ? padBasis[type] : "";
     for (size_t i = 0; i < werk.dirLijst.size(); ++i)
-        uit << wxString::Format("set(SrcPath%d ", static_cast<int>(i)) << basis << werk.dirLijst[i] << ")\n";
+        uit << wxString::Format("set(SrcPath%d ", static_cast<int>(i)) << cmakeArgument(basis, werk.dirLijst[i])
+            << ")\n";
 }
 
 void schrijfIncludeMappen(const GeneratorInvoer& invoer, const Werklijsten& werk, wxString& uit)
@@ -246,7 +278,7 @@ wxString geefPadVerwijzing(const wxString& map, const Werklijsten& werk, const w
     const int i = werk.dirLijst.Index(map);
     if (i != wxNOT_FOUND)
         return srcPad(static_cast<size_t>(i));
-    return "${PROJECT_SOURCE_DIR}/" + relatieveMap(map, uitvoerDir);
+    return cmakeArgument("${PROJECT_SOURCE_DIR}/", relatieveMap(map, uitvoerDir));
 }
 
 void schrijfIncludeBestanden(const GeneratorInvoer& invoer, const Werklijsten& werk, wxString& uit)
@@ -259,7 +291,7 @@ void schrijfIncludeBestanden(const GeneratorInvoer& invoer, const Werklijsten& w
         const int n = static_cast<int>(k);
         uit << wxString::Format("set(Include%dPath ", n)
             << geefPadVerwijzing(bestand.GetPath(), werk, invoer.uitvoerDir) << ")\n"
-            << wxString::Format("include(${Include%dPath}/", n) << bestand.GetFullName() << ")\n\n";
+            << "include(" << cmakeArgument(wxString::Format("${Include%dPath}/", n), bestand.GetFullName()) << ")\n\n";
     }
 }
 

@@ -88,3 +88,41 @@ TEST(EchteBouw, ALibraryAndAProjectThatUsesItConfigureBuildAndRun)
     EXPECT_EQ(uitvoer, "42\n");
     wxFileName::Rmdir(top, wxPATH_RMDIR_RECURSIVE);
 }
+
+TEST(EchteBouw, NamesWithSpacesAndCMakeCharactersStillNameTheirFiles)
+{
+    char sjabloon[] = "/tmp/klavermol-namen-XXXXXX";
+    ASSERT_NE(mkdtemp(sjabloon), nullptr);
+    const wxString top = sjabloon;
+    // (A backslash in a source name is escaped in the text as well, but CMake
+    // cannot take such a source to a build.)
+    const char* namen[] = {"met spatie.c", "geld$teken.c", "hek#je.c", "haak(1).c", "aanhalings'teken.c"};
+    std::string aanroepen;
+    kern::GeneratorInvoer app = basis(top);
+    app.naam = "namen";
+    int i = 0;
+    for (const char* naam : namen) {
+        const std::string functie = "f" + std::to_string(i++);
+        schrijf(top + "/map (met) spatie/" + naam, ("int " + functie + "(void) { return 1; }\n").c_str());
+        app.bronnen.Add(top + "/map (met) spatie/" + naam);
+        aanroepen += "int " + functie + "(void);\n";
+    }
+    std::string hoofd = aanroepen + "#include <stdio.h>\nint main(void) { printf(\"%d\\n\", f0() + f1() + f2() + f3() + f4()); return 0; }\n";
+    schrijf(top + "/main.c", hoofd.c_str());
+    app.bronnen.Add(top + "/main.c");
+    kern::Werklijsten werk;
+    wxString tekst;
+    kern::maakUitvoer(app, werk, tekst);
+    // An ordinary name stays as it is; the others are quoted.
+    EXPECT_NE(tekst.Find("list(APPEND SRCS main.c )"), wxNOT_FOUND);
+    EXPECT_NE(tekst.Find("set(SrcPath0 \"${PROJECT_SOURCE_DIR}/map (met) spatie\")"), wxNOT_FOUND);
+    EXPECT_NE(tekst.Find("\"geld\\$teken.c\""), wxNOT_FOUND);
+    ASSERT_TRUE(kern::schrijfTekstBestand(top + "/CMakeLists.txt", tekst));
+
+    ASSERT_EQ(voerUit("cmake -S '" + top + "' -B '" + top + "/bouw'"), 0);
+    ASSERT_EQ(voerUit("cmake --build '" + top + "/bouw'"), 0);
+    std::string uitvoer;
+    ASSERT_EQ(voerUit("'" + top + "/bouw/namen'", &uitvoer), 0);
+    EXPECT_EQ(uitvoer, "5\n");
+    wxFileName::Rmdir(top, wxPATH_RMDIR_RECURSIVE);
+}

@@ -15,10 +15,8 @@
 #include <wx/wfstream.h>
 
 #include <cstdio>
-#include <map>
 #include <memory>
 #include <set>
-#include <stdexcept>
 
 namespace {
 
@@ -51,11 +49,18 @@ const wxCmdLineEntryDesc beschrijving[] = {
      wxCMD_LINE_PARAM_OPTIONAL | wxCMD_LINE_PARAM_MULTIPLE},
     {wxCMD_LINE_NONE}};
 
-void meld(const wxString& tekst)
+void meld(const wxString& tekst, FILE* stroom = stderr)
 {
     const wxString regel = tekst + "\n";
     const wxScopedCharBuffer utf8 = regel.utf8_str();
-    std::fwrite(utf8.data(), 1, utf8.length(), stderr);
+    std::fwrite(utf8.data(), 1, utf8.length(), stroom);
+}
+
+// Reports a failure; false, so that a check can end with `return faal(...)`.
+bool faal(const wxString& tekst)
+{
+    meld("klavermol-cli: " + tekst);
+    return false;
 }
 
 // Shows what the core logs on stderr and counts the errors among it.
@@ -77,27 +82,22 @@ protected:
 
 int FoutTeller::aantal = 0;
 
-struct Fout_ : std::runtime_error
+// One of a fixed list of words, by its position; 0 when the option is absent.
+bool kiesWoord(const wxCmdLineParser& parser, const char* optie, std::initializer_list<const char*> woorden,
+               int& keuze)
 {
-    explicit Fout_(const wxString& tekst) : std::runtime_error(tekst.utf8_string()) {}
-};
-
-// One of a fixed list of words, by its position; the default when absent.
-int kiesWoord(const wxCmdLineParser& parser, const char* optie, std::initializer_list<const char*> woorden)
-{
+    keuze = 0;
     wxString waarde;
     if (!parser.Found(optie, &waarde))
-        return 0;
-    int i = 0;
+        return true;
+    wxString toegestaan;
     for (const char* woord : woorden) {
         if (waarde == woord)
-            return i;
-        ++i;
-    }
-    wxString toegestaan;
-    for (const char* woord : woorden)
+            return true;
+        ++keuze;
         toegestaan += (toegestaan.empty() ? "" : "|") + wxString(woord);
-    throw Fout_(wxString::Format("--%s must be one of %s, not \"%s\"", optie, toegestaan, waarde));
+    }
+    return faal(wxString::Format("--%s must be one of %s, not \"%s\"", optie, toegestaan, waarde));
 }
 
 // A switch by its long name: "--h" (headers) must not be taken for "-h".
@@ -117,7 +117,8 @@ wxString absoluut(const wxString& pad)
 }
 
 // A directory as the main window's pickers hold it: absolute, without a
-// closing separator.
+// closing separator. A file path keeps its form (its name taken as the last
+// directory), which makes this the form to compare entries of any list in.
 wxString absoluteMap(const wxString& map)
 {
     wxFileName f = wxFileName::DirName(map);
@@ -125,13 +126,13 @@ wxString absoluteMap(const wxString& map)
     return f.GetPath(wxPATH_GET_VOLUME);
 }
 
-kern::Sjablonen leesSjablonen(const wxCmdLineParser& parser)
+bool leesSjablonen(const wxCmdLineParser& parser, kern::Sjablonen& sjablonen)
 {
     wxString bestand;
     std::unique_ptr<wxFileConfig> config;
     if (parser.Found("settings", &bestand)) {
         if (!wxFileName::IsFileReadable(bestand))
-            throw Fout_("cannot read the settings file " + bestand);
+            return faal("cannot read the settings file " + bestand);
         wxFileInputStream stroom(bestand);
         config = std::make_unique<wxFileConfig>(stroom);
     } else {
@@ -139,7 +140,8 @@ kern::Sjablonen leesSjablonen(const wxCmdLineParser& parser)
     }
     config->SetExpandEnvVars(false);
     config->DisableAutoSave();
-    return kern::leesSjablonen(*config);
+    sjablonen = kern::leesSjablonen(*config);
+    return true;
 }
 
 // Collects the three lists in command-line order.
@@ -148,58 +150,63 @@ class Verzameling
 public:
     Verzameling(int modus, const kern::Families& families) : modus(modus), families(families) {}
 
-    void voegMapToe(const wxString& map)
+    bool voegMapToe(const wxString& map)
     {
         if (!wxFileName::DirExists(map))
-            throw Fout_("no such directory: " + map);
+            return faal("no such directory: " + map);
         wxArrayString gevonden;
         if (!kern::verzamelBestanden(wxFileName::DirName(absoluteMap(map)).GetFullPath(), modus, families, gevonden))
-            throw Fout_("cannot read the directory " + map);
+            return faal("cannot read the directory " + map);
         voegBronnenToe(gevonden);
+        return true;
     }
 
-    void voegBestandToe(const wxString& pad)
+    bool voegBestandToe(const wxString& pad)
     {
         if (!wxFileName::FileExists(pad))
-            throw Fout_("no such file: " + pad);
+            return faal("no such file: " + pad);
         voegBronnenToe(wxArrayString(1, absoluut(pad)));
+        return true;
     }
 
-    void voegSubMapToe(const wxString& waarde)
+    bool voegSubMapToe(const wxString& waarde)
     {
         const wxString map = waarde.BeforeFirst('=');
         if (!waarde.Contains("=") || map.empty())
-            throw Fout_("--subdir takes DIR=LIBNAME, not \"" + waarde + "\"");
+            return faal("--subdir takes DIR=LIBNAME, not \"" + waarde + "\"");
         const wxFileName lijst(wxFileName::DirName(map).GetFullPath(), "CMakeLists.txt");
         if (!lijst.FileExists())
-            throw Fout_("The selected dir does not contain a CMakeLists.txt file. (" + map + ")");
+            return faal("The selected dir does not contain a CMakeLists.txt file. (" + map + ")");
         wxFileName absoluteLijst(lijst);
         absoluteLijst.MakeAbsolute();
         const wxString pad = absoluteLijst.GetPath();
         for (const kern::BiebRegel& b : biebs)
             if (b.map == pad) {
                 meld(absoluteLijst.GetFullName() + " won't be added since it is already in your selection list.");
-                return;
+                return true;
             }
         biebs.push_back({pad, waarde.AfterFirst('='), true});
+        return true;
     }
 
-    void voegIncludeToe(const wxString& pad)
+    bool voegIncludeToe(const wxString& pad)
     {
         if (!pad.EndsWith(".cmake"))
-            throw Fout_("not a CMake include file (*.cmake): " + pad);
+            return faal("not a CMake include file (*.cmake): " + pad);
         if (!wxFileName::FileExists(pad))
-            throw Fout_("no such file: " + pad);
+            return faal("no such file: " + pad);
         const wxString vol = absoluut(pad);
         for (const kern::IncludeRegel& i : includes)
             if (i.pad == vol) {
                 meld(wxFileName(vol).GetFullName() + " won't be added since it is already in your selection list.");
-                return;
+                return true;
             }
         includes.push_back({vol, true});
+        return true;
     }
 
     // Fills the generator's input: the checked sources, the whole lists.
+    // `uitgevinkt` holds the texts of the entries to leave unchecked.
     void vulIn(kern::GeneratorInvoer& invoer, const std::set<wxString>& uitgevinkt) const
     {
         for (size_t i = 0; i < selektie.aantal(); ++i)
@@ -228,48 +235,65 @@ private:
     std::vector<kern::IncludeRegel> includes;
 };
 
-int voerUit(const wxCmdLineParser& parser)
+// The choices of the output panel; false (reported) on a wrong value.
+bool leesKeuzes(const wxCmdLineParser& parser, kern::GeneratorInvoer& invoer, int& modus)
 {
-    kern::GeneratorInvoer invoer;
-    invoer.soort = kiesWoord(parser, "kind", {"project", "library", "include"});
-    invoer.projektType = kiesWoord(parser, "project-type", {"standard", "crosscompile"});
-    invoer.biebType = kiesWoord(parser, "library-type", {"static", "dynamic", "object"});
-    const int modus = kiesWoord(parser, "mode", {"directory", "recursive"}) + kern::ModusMap;
+    if (!kiesWoord(parser, "kind", {"project", "library", "include"}, invoer.soort)
+        || !kiesWoord(parser, "project-type", {"standard", "crosscompile"}, invoer.projektType)
+        || !kiesWoord(parser, "library-type", {"static", "dynamic", "object"}, invoer.biebType)
+        || !kiesWoord(parser, "mode", {"directory", "recursive"}, modus))
+        return false;
+    modus += kern::ModusMap;
     if (!parser.Found("name", &invoer.naam))
         invoer.naam = "MyFirstProject";
     wxString uitvoerDir;
     parser.Found("output-dir", &uitvoerDir);
     if (!wxFileName::DirExists(uitvoerDir))
-        throw Fout_("no such output directory: " + uitvoerDir);
+        return faal("no such output directory: " + uitvoerDir);
     invoer.uitvoerDir = absoluteMap(uitvoerDir);
+    return true;
+}
 
+// The DIR parameters and the list options, in command-line order.
+bool verzamel(const wxCmdLineParser& parser, int modus, kern::GeneratorInvoer& invoer)
+{
     kern::Families families;
     families.c = heeftSchakelaar(parser, "c");
     families.cpp = heeftSchakelaar(parser, "cpp");
     families.h = heeftSchakelaar(parser, "h");
     families.s = heeftSchakelaar(parser, "asm");
     if (parser.GetParamCount() > 0 && !(families.c || families.cpp || families.h || families.s))
-        throw Fout_("a DIR needs at least one of --c, --cpp, --h and --asm");
+        return faal("a DIR needs at least one of --c, --cpp, --h and --asm");
 
     Verzameling verzameling(modus, families);
     std::set<wxString> uitgevinkt;
     for (const wxCmdLineArg& arg : parser.GetArguments()) {
-        if (arg.GetKind() == wxCMD_LINE_PARAM) {
-            verzameling.voegMapToe(arg.GetStrVal());
-            continue;
-        }
-        const wxString naam = arg.GetLongName();
-        if (naam == "file")
-            verzameling.voegBestandToe(arg.GetStrVal());
+        const wxString naam = arg.GetKind() == wxCMD_LINE_PARAM ? wxString() : arg.GetLongName();
+        bool goed = true;
+        if (arg.GetKind() == wxCMD_LINE_PARAM)
+            goed = verzameling.voegMapToe(arg.GetStrVal());
+        else if (naam == "file")
+            goed = verzameling.voegBestandToe(arg.GetStrVal());
         else if (naam == "subdir")
-            verzameling.voegSubMapToe(arg.GetStrVal());
+            goed = verzameling.voegSubMapToe(arg.GetStrVal());
         else if (naam == "include")
-            verzameling.voegIncludeToe(arg.GetStrVal());
+            goed = verzameling.voegIncludeToe(arg.GetStrVal());
         else if (naam == "uncheck")
-            uitgevinkt.insert(absoluut(arg.GetStrVal()));
+            uitgevinkt.insert(absoluteMap(arg.GetStrVal()));
+        if (!goed)
+            return false;
     }
     verzameling.vulIn(invoer, uitgevinkt);
-    invoer.sjablonen = leesSjablonen(parser);
+    return true;
+}
+
+int voerUit(const wxCmdLineParser& parser)
+{
+    kern::GeneratorInvoer invoer;
+    int modus = 0;
+    if (!leesKeuzes(parser, invoer, modus) || !verzamel(parser, modus, invoer)
+        || !leesSjablonen(parser, invoer.sjablonen))
+        return Fout;
     invoer.datum = kern::geefGeneratieDatum();
 
     kern::Werklijsten werk;
@@ -286,9 +310,10 @@ int voerUit(const wxCmdLineParser& parser)
     }
     const wxString bestandNaam = invoer.soort == kern::SoortInclude ? invoer.naam + ".cmake" : "CMakeLists.txt";
     const wxString pad = wxFileName(invoer.uitvoerDir, bestandNaam).GetFullPath();
-    if (!kern::schrijfTekstBestand(pad, tekst))
-        throw Fout_("Failed to open output file " + pad + " for writing to.");
-    return Gelukt;
+    if (kern::schrijfTekstBestand(pad, tekst))
+        return Gelukt;
+    faal("Failed to open output file " + pad + " for writing to.");
+    return Fout;
 }
 
 } // namespace
@@ -303,15 +328,11 @@ int main(int argc, char** argv)
     delete wxLog::SetActiveTarget(new FoutTeller);
     wxCmdLineParser parser(beschrijving, argc, argv);
     parser.SetLogo("klavermol-cli writes the CMake file Klavermol's Execute would show.");
-    switch (parser.Parse()) {
-    case -1: return Gelukt; // the help was shown
-    case 0: break;
-    default: return VerkeerdGebruik;
-    }
-    try {
-        return voerUit(parser);
-    } catch (const Fout_& fout) {
-        meld(wxString("klavermol-cli: ") + wxString::FromUTF8(fout.what()));
-        return Fout;
+    // The parser reports a wrong call itself; the usage follows it on
+    // stderr, or stands alone on stdout when it was asked for.
+    switch (parser.Parse(false)) {
+    case 0: return voerUit(parser);
+    case -1: meld(parser.GetUsageString().Trim(), stdout); return Gelukt;
+    default: meld(parser.GetUsageString().Trim()); return VerkeerdGebruik;
     }
 }

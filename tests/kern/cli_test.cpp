@@ -2,12 +2,15 @@
 #include "kern/generator.h"
 
 #include <gtest/gtest.h>
+#include <wx/dir.h>
 #include <wx/filename.h>
 
 #include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -160,6 +163,12 @@ TEST_F(Cli, ErrorsGiveAMessageAndANonZeroExitAndNoFile)
         {"-o p -k boek", 1, "--kind must be one of project|library|include"},
         {"-o p --settings ontbreekt.ini", 1, "cannot read the settings file ontbreekt.ini"},
         {"-w -o p/bestaat/niet --c p", 1, "no such output directory"},
+        {"-o p -t cross", 1, "--project-type must be one of standard|crosscompile, not \"cross\""},
+        {"-o p -l shared", 1, "--library-type must be one of static|dynamic|object, not \"shared\""},
+        {"-o p -m deep --c p", 1, "--mode must be one of directory|recursive, not \"deep\""},
+        {"-o p -f p/weg.c", 1, "no such file: p/weg.c"},
+        {"-o p --include cmake/weg.cmake", 1, "no such file: cmake/weg.cmake"},
+        {"-o p --include cmake/extra.CMAKE", 1, "not a CMake include file (*.cmake)"},
     };
     for (const auto& geval : gevallen) {
         const Uitslag u = voerUit(geval.argumenten);
@@ -179,4 +188,88 @@ TEST_F(Cli, AnUnwritableTargetKeepsTheOldFile)
                           " for writing to."),
               std::string::npos);
     EXPECT_TRUE(wxFileName::DirExists(map + "/p/CMakeLists.txt"));
+}
+
+TEST_F(Cli, HelpGoesToStdoutAndDashDashHIsTheHeaderSwitch)
+{
+    Uitslag u = voerUit("-h");
+    EXPECT_EQ(u.code, 0);
+    EXPECT_EQ(u.uit.rfind("klavermol-cli writes", 0), 0u) << u.uit;
+    EXPECT_NE(u.uit.find("-o, --output-dir=<str>"), std::string::npos);
+    EXPECT_TRUE(u.fout.empty()) << u.fout;
+    u = voerUit("-o p --h p/inc");
+    ASSERT_EQ(u.code, 0) << u.fout;
+    EXPECT_NE(u.uit.find("set(AllIncludeDirs ${SrcPath0} )"), std::string::npos);
+}
+
+TEST_F(Cli, HandPickedFilesAndDirectoriesKeepTheCommandLineOrder)
+{
+    kern::GeneratorInvoer in;
+    in.uitvoerDir = map + "/p";
+    in.bronnen.Add(map + "/p/src/a.c");
+    in.bronnen.Add(map + "/p/main.c"); // the directory mode takes p only, not p/src
+    EXPECT_EQ(voerUit("-o p -f p/src/a.c --c p").uit, verwacht(in));
+    EXPECT_NE(voerUit("-o p --c p -f p/src/a.c").uit.find("set(SrcPath0 ${PROJECT_SOURCE_DIR}/.)\n"
+                                                          "set(SrcPath1 ${PROJECT_SOURCE_DIR}/src)\n"),
+              std::string::npos);
+}
+
+// -x names an entry of any list by its text, however the path is spelled;
+// an unchecked row keeps its number.
+TEST_F(Cli, UncheckReachesAllThreeListsAndKeepsTheNumbers)
+{
+    maak("lib2/CMakeLists.txt", "\n");
+    maak("cmake/tweede.cmake", "\n");
+    const Uitslag u = voerUit("-o p --c p --subdir lib=een --subdir lib2=twee --include cmake/extra.cmake "
+                              "--include cmake/tweede.cmake -x lib/ -x ./cmake/tweede.cmake -x p/../p/main.c");
+    ASSERT_EQ(u.code, 0) << u.fout;
+    kern::GeneratorInvoer in;
+    in.uitvoerDir = map + "/p";
+    in.biebs = {{map + "/lib", "een", false}, {map + "/lib2", "twee", true}};
+    in.includes = {{map + "/cmake/extra.cmake", true}, {map + "/cmake/tweede.cmake", false}};
+    EXPECT_EQ(u.uit, verwacht(in));
+    EXPECT_NE(u.uit.find("set(Lib1Path ${PROJECT_SOURCE_DIR}/../lib2)\n"), std::string::npos);
+    EXPECT_NE(u.uit.find("target_link_libraries(${ProjectName} twee )"), std::string::npos);
+}
+
+TEST_F(Cli, TheStoreNeverExpandsVariablesAndTheDateFollowsSourceDateEpoch)
+{
+    maak(".Klavermol", "[Configuratie]\nKopieerrechtMededeling=## $HOME ${SRCS} %PATH%\n");
+    const Uitslag u = voerUit("-o p", "SRCS=omgeving SOURCE_DATE_EPOCH=86399");
+    ASSERT_EQ(u.code, 0) << u.fout;
+    EXPECT_EQ(u.uit.rfind("## Klavermol generated CMakelists Project file\n"
+                          "## File generated on : 1970-01-01 23:59:59.\n"
+                          "## $HOME ${SRCS} %PATH%\n",
+                          0),
+              0u)
+        << u.uit;
+}
+
+TEST_F(Cli, WriteReplacesAnOldFileWholeAndLeavesNothingBeside)
+{
+    maak("p/CMakeLists.txt", "oud\n");
+    const Uitslag u = voerUit("-w -o p --c p");
+    ASSERT_EQ(u.code, 0) << u.fout;
+    std::ifstream f((map + "/p/CMakeLists.txt").ToStdString());
+    const std::string inhoud((std::istreambuf_iterator<char>(f)), {});
+    kern::GeneratorInvoer in;
+    in.uitvoerDir = map + "/p";
+    in.bronnen.Add(map + "/p/main.c");
+    EXPECT_EQ(inhoud, verwacht(in));
+    wxArrayString bestanden;
+    wxDir::GetAllFiles(map + "/p", &bestanden, "*", wxDIR_FILES | wxDIR_HIDDEN);
+    EXPECT_EQ(bestanden.size(), 3u); // main.c, .verborgen.c and the new file
+}
+
+TEST_F(Cli, AnUnreadableDirectoryIsAnError)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root reads every directory";
+    wxFileName::Mkdir(map + "/dicht");
+    chmod((map + "/dicht").c_str(), 0);
+    const Uitslag u = voerUit("-o p --c dicht");
+    chmod((map + "/dicht").c_str(), 0700);
+    EXPECT_EQ(u.code, 1);
+    EXPECT_NE(u.fout.find("cannot read the directory dicht"), std::string::npos) << u.fout;
+    EXPECT_TRUE(u.uit.empty());
 }

@@ -18,10 +18,10 @@ wxString mapVan(const wxString& pad)
 
 void zetAlleVinkjes(wxCheckListBox* lijst, bool aan)
 {
-    // Not frozen: a frozen GTK list takes its model away, and every check
-    // then makes its selection handler complain.
+    lijst->Freeze();
     for (unsigned int i = 0; i < lijst->GetCount(); ++i)
         lijst->Check(i, aan);
+    lijst->Thaw();
 }
 
 } // namespace
@@ -38,7 +38,11 @@ void KlavermolVenster::OnClearClick(wxCommandEvent&)
                          this) != wxYES)
             return;
     }
+    // Emptied in one step: the toolkit answers every row removed from a
+    // shown list on its own, which is quadratic in the row count.
+    lijst->Freeze();
     leegLijst(lijst);
+    lijst->Thaw();
     if (lijst == bestandSelektieLijst)
         bronSelektie.wis();
     else if (lijst == biebLijst) {
@@ -69,9 +73,9 @@ void KlavermolVenster::OnBestandSelektieLijstIDDoubleClicked(wxCommandEvent& eve
     const wxArrayString regels = bestandSelektieLijst->GetStrings();
     if (regels.empty())
         return;
-    // Not frozen: a frozen GTK list takes its model away, and every check
-    // then makes its selection handler complain.
+    bestandSelektieLijst->Freeze();
     for (unsigned int i = 0; i < regels.size(); ++i)
         if (mapVan(regels[i]) == map)
             bestandSelektieLijst->Check(i, !bestandSelektieLijst->IsChecked(i));
+    bestandSelektieLijst->Thaw();
 }

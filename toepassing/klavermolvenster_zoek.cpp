@@ -152,20 +152,24 @@ wxArrayString KlavermolVenster::kiesBestanden(const wxString& map)
     // GTK's chooser reports paths only once it has been on screen.
     if (paden.empty())
         dialoog.wxFileDialogBase::GetPaths(paden);
+    // The dialog hands back full paths; only another form is converted.
     wxArrayString volledig;
     for (const wxString& pad : paden)
         if (!pad.empty())
-            volledig.Add(wxFileName(pad).GetFullPath(wxPATH_NATIVE));
+            volledig.Add(wxIsAbsolutePath(pad) ? pad : wxFileName(pad).GetFullPath(wxPATH_NATIVE));
     return volledig;
 }
 
 int KlavermolVenster::voegBronnenToe(const wxArrayString& paden)
 {
     wxBusyCursor bezig;
+    // Asked once: the trace line per file is built only when it is kept.
+    const bool spoor = wxLog::IsLevelEnabled(wxLOG_Debug, wxASCII_STR(wxLOG_COMPONENT));
     wxArrayString nieuw;
     nieuw.reserve(paden.size());
     for (const wxString& pad : paden) {
-        wxLogDebug("OnAddCLick : voeg toe bestand: " + DesktopAppBasis::dubbeleQuotes(pad, false));
+        if (spoor)
+            wxLogDebug("OnAddCLick : voeg toe bestand: " + DesktopAppBasis::dubbeleQuotes(pad, false));
         if (bronSelektie.voegToe(pad))
             nieuw.Add(pad);
         else
@@ -175,12 +179,12 @@ int KlavermolVenster::voegBronnenToe(const wxArrayString& paden)
         return 0;
 
     // One batch for the control, however many files.
-    // Not frozen: a frozen GTK list takes its model away, and every check
-    // then makes its selection handler complain.
     const unsigned int eerste = bestandSelektieLijst->GetCount();
+    bestandSelektieLijst->Freeze();
     bestandSelektieLijst->Append(nieuw);
     for (unsigned int i = eerste; i < bestandSelektieLijst->GetCount(); ++i)
         bestandSelektieLijst->Check(i);
+    bestandSelektieLijst->Thaw();
     return static_cast<int>(nieuw.size());
 }
 

@@ -90,7 +90,7 @@ TEST_F(Vertaling, DutchMenusPagesAndButtons)
     EXPECT_EQ(venster().selektieBoek->GetPageText(0), "Bronbestanden");
     EXPECT_EQ(venster().selektieBoek->GetPageText(1), "Bibliotheken");
     EXPECT_EQ(venster().selektieBoek->GetPageText(2), "Includebestanden");
-    EXPECT_EQ(knop(wxID_SAVE), "&Bewaren");
+    EXPECT_EQ(knop(wxID_SAVE), "&Opslaan");
     EXPECT_EQ(knop(wxID_EXIT), "&Afsluiten");
     EXPECT_EQ(venster().projektLibIncludeNaam->GetValue(), "MijnEersteProject");
     EXPECT_TRUE(heeftLog(wxLOG_Debug, "Applikatie (Klavermol) katalogus voor taal : Dutch met succes toegevoegd."));

@@ -28,28 +28,44 @@ controleer test -f "$prefix/share/icons/hicolor/48x48/apps/klavermol.png"
 controleer desktop-file-validate "$prefix/share/applications/nl.zelvano.Klavermol.desktop"
 controleer appstreamcli validate --no-net "$prefix/share/metainfo/nl.zelvano.Klavermol.metainfo.xml"
 
+# The installed catalogues are the translated ones.
+controleer_vertaling() { msgunfmt "$prefix/share/Zelvano/Klavermol/locale/$1/LC_MESSAGES/$2.mo" | grep -x "msgstr \"$3\"" >/dev/null; }
+controleer controleer_vertaling de Klavermol Allgemein
+controleer controleer_vertaling nl Klavermol Algemeen
+controleer controleer_vertaling de Zelvanodesktop "Anwendung neu starten"
+controleer controleer_vertaling nl Zelvanodesktop "Applicatie opnieuw starten"
+
 # The installed program, started with each language pinned in its settings
 # and closed as a user would (Ctrl+Q): it found the catalogues below its own
-# prefix when the name it wrote back at exit is the translated default.
+# prefix when the name it wrote back at exit is the translated default. A
+# screenshot of the main window is left beside the build for a person to
+# look at (the labels themselves are checked by the GUI tests).
 start_in_taal() {
-    local taal="$1" naam="$2"
+    local taal="$1" naam="$2" beeld="$3"
     printf '[Gebruikersinstellingen]\nEncoding=%s\n' "$taal" > "$thuis/.Klavermol"
     HOME="$thuis" "$prefix/bin/klavermol" > "$thuis/uitvoer.txt" 2>&1 &
-    local pid=$! venster=""
-    for _ in $(seq 50); do
-        venster=$(xdotool search --onlyvisible --pid "$pid" 2>/dev/null | head -n 1) && [ -n "$venster" ] && break
+    local pid=$! vensters=""
+    # up to 10 s for the main window alone, once the splash screen has gone
+    for _ in $(seq 100); do
+        vensters=$(xdotool search --onlyvisible --pid "$pid" 2>/dev/null || true)
+        [ -n "$vensters" ] && [ "$(echo "$vensters" | wc -l)" = 1 ] && break
+        kill -0 "$pid" 2>/dev/null || break
         sleep 0.1
     done
-    sleep 0.5
-    controleer test -n "$venster"
-    xdotool windowfocus --sync "$venster" key ctrl+q 2>/dev/null || true
+    controleer test -n "$vensters"
+    controleer kill -0 "$pid"
+    if command -v import >/dev/null; then
+        import -window root "$beeld" && echo "screenshot: $beeld"
+    fi
+    xdotool windowfocus --sync "$(echo "$vensters" | head -n 1)" key ctrl+q 2>/dev/null || true
     for _ in $(seq 50); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
     if kill -0 "$pid" 2>/dev/null; then echo "FAILED: Ctrl+Q did not close the program"; fout=1; kill "$pid"; fi
     wait "$pid" 2>/dev/null || true
     controleer grep -q "^Projektnaam=$naam\$" "$thuis/.Klavermol"
+    if [ -s "$thuis/uitvoer.txt" ]; then echo "output of the program:"; cat "$thuis/uitvoer.txt"; fi
 }
-start_in_taal "$(cat "$bouw/taalnummers/duits")" MeinErstesProjekt
-start_in_taal "$(cat "$bouw/taalnummers/nederlands")" MijnEersteProject
+start_in_taal "$(cat "$bouw/taalnummers/duits")" MeinErstesProjekt "$bouw/installatie-duits.png"
+start_in_taal "$(cat "$bouw/taalnummers/nederlands")" MijnEersteProject "$bouw/installatie-nederlands.png"
 
 if [ $fout = 0 ]; then echo "1 passed, 0 failed"; else echo "0 passed, 1 failed"; fi
 exit $fout

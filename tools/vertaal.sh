@@ -23,7 +23,9 @@ trek_uit() {
     msgen --output-file="data/po/$domein/en.po" "data/po/$domein/en.po"
 }
 
-# The shared frame: start-up, language, about box.
-trek_uit Zelvanodesktop desktop/*.cpp dialogs/taalkeuzedialoog.cpp
+# The shared frame: start-up, language, about box. Headers too: a default
+# argument such as a dialog's title is a text of its own.
+trek_uit Zelvanodesktop desktop/*.cpp desktop/h/*.h dialogs/taalkeuzedialoog.*
 # The program itself, its dialogs and the comment lines it writes.
-trek_uit Klavermol toepassing/*.cpp $(ls dialogs/*.cpp | grep -v taalkeuzedialoog) kern/*.cpp $(ls cli/*.cpp 2>/dev/null)
+trek_uit Klavermol toepassing/*.cpp toepassing/*.h $(ls dialogs/*.cpp dialogs/*.h | grep -v taalkeuzedialoog) \
+    kern/*.cpp kern/*.h $(ls cli/*.cpp 2>/dev/null)

@@ -44,20 +44,22 @@ start_in_taal() {
     local taal="$1" naam="$2" beeld="$3"
     printf '[Gebruikersinstellingen]\nEncoding=%s\n' "$taal" > "$thuis/.Klavermol"
     HOME="$thuis" "$prefix/bin/klavermol" > "$thuis/uitvoer.txt" 2>&1 &
-    local pid=$! vensters=""
-    # up to 10 s for the main window alone, once the splash screen has gone
+    local pid=$! venster="" vensters=""
+    # Up to 10 s for the main window (titled, unlike the splash screen) to
+    # stand alone, once the splash screen has gone.
     for _ in $(seq 100); do
+        venster=$(xdotool search --onlyvisible --pid "$pid" --name '^Klavermol' 2>/dev/null | head -n 1 || true)
         vensters=$(xdotool search --onlyvisible --pid "$pid" 2>/dev/null || true)
-        [ -n "$vensters" ] && [ "$(echo "$vensters" | wc -l)" = 1 ] && break
+        [ -n "$venster" ] && [ "$vensters" = "$venster" ] && break
         kill -0 "$pid" 2>/dev/null || break
         sleep 0.1
     done
-    controleer test -n "$vensters"
+    controleer test -n "$venster"
     controleer kill -0 "$pid"
     if command -v import >/dev/null; then
         import -window root "$beeld" && echo "screenshot: $beeld"
     fi
-    xdotool windowfocus --sync "$(echo "$vensters" | head -n 1)" key ctrl+q 2>/dev/null || true
+    xdotool windowfocus --sync "$venster" key ctrl+q 2>/dev/null || true
     for _ in $(seq 50); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
     if kill -0 "$pid" 2>/dev/null; then echo "FAILED: Ctrl+Q did not close the program"; fout=1; kill "$pid"; fi
     wait "$pid" 2>/dev/null || true

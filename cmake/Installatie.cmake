@@ -28,4 +28,4 @@ add_custom_command(TARGET klavermol-taalnummers POST_BUILD
   COMMAND klavermol-taalnummers ${CMAKE_BINARY_DIR}/taalnummers)
 add_test(NAME Installatie.InstallsAndStartsInGermanAndDutch
          COMMAND ${CMAKE_SOURCE_DIR}/tools/installatietest.sh ${CMAKE_BINARY_DIR})
-set_tests_properties(Installatie.InstallsAndStartsInGermanAndDutch PROPERTIES LABELS gui)
+set_tests_properties(Installatie.InstallsAndStartsInGermanAndDutch PROPERTIES LABELS gui RUN_SERIAL TRUE)

@@ -155,7 +155,8 @@ public:
         if (!wxFileName::DirExists(map))
             return faal("no such directory: " + map);
         wxArrayString gevonden;
-        if (!kern::verzamelBestanden(wxFileName::DirName(absoluteMap(map)).GetFullPath(), modus, families, gevonden))
+        if (!kern::verzamelBestanden(wxFileName::DirName(absoluteMap(map)).GetFullPath(), modus, families, gevonden,
+                                     &overgeslagen))
             return faal("cannot read the directory " + map);
         voegBronnenToe(gevonden);
         return true;
@@ -220,16 +221,27 @@ public:
             i.aangevinkt = uitgevinkt.count(i.pad) == 0;
     }
 
+    // Paths no CMake text can name were left out; the caller reports them.
+    std::size_t geefOvergeslagen() const { return overgeslagen; }
+
 private:
     void voegBronnenToe(const wxArrayString& paden)
     {
-        selektie.voegToe(paden, [](const wxString& pad) {
+        wxArrayString noembaar;
+        noembaar.reserve(paden.size());
+        for (const wxString& pad : paden)
+            if (kern::kanCMakeNoemen(pad))
+                noembaar.Add(pad);
+            else
+                ++overgeslagen;
+        selektie.voegToe(noembaar, [](const wxString& pad) {
             meld(pad + " won't be added since it is already in your selection list.");
         });
     }
 
     int modus;
     kern::Families families;
+    std::size_t overgeslagen = 0;
     kern::BronSelektie selektie;
     std::vector<kern::BiebRegel> biebs;
     std::vector<kern::IncludeRegel> includes;
@@ -283,6 +295,8 @@ bool verzamel(const wxCmdLineParser& parser, int modus, kern::GeneratorInvoer& i
         if (!goed)
             return false;
     }
+    if (verzameling.geefOvergeslagen() != 0)
+        meld("klavermol-cli: " + kern::geefOvergeslagenMelding(verzameling.geefOvergeslagen()));
     verzameling.vulIn(invoer, uitgevinkt);
     return true;
 }

@@ -75,8 +75,8 @@ struct MapId {
 class Wandeling {
 public:
     Wandeling(const std::vector<wxString>& patronen, const WandelWijze& wijze,
-              Volgorde volgorde, const MapOntvanger& ontvanger)
-        : wijze_(wijze), volgorde_(volgorde), ontvanger_(ontvanger)
+              Volgorde volgorde, const MapOntvanger& ontvanger, std::size_t& overgeslagen)
+        : wijze_(wijze), volgorde_(volgorde), ontvanger_(ontvanger), overgeslagen_(overgeslagen)
     {
         for (const wxString& p : patronen)
             patronen_.push_back(p.ToStdWstring());
@@ -91,10 +91,12 @@ private:
     bool isMap(const dirent* de, const wxString& prefix, const wxString& naam,
                bool betrouwbaar) const;
     void bezoek(DIR* d, const wxString& prefix);
+    void telOvergeslagen(DIR* d, const dirent* de, size_t lengte);
 
     WandelWijze wijze_;
     Volgorde volgorde_;
     const MapOntvanger& ontvanger_;
+    std::size_t& overgeslagen_;
     std::vector<std::wstring> patronen_;
     std::vector<MapId> pad_;
     bool gestopt_ = false;
@@ -134,6 +136,21 @@ bool Wandeling::isMap(const dirent* de, const wxString& prefix, const wxString& 
     return rc == 0 && S_ISDIR(st.st_mode);
 }
 
+// A name left out is counted when it would have mattered: a file that
+// matches a pattern, or a directory the walk would have entered. Both are
+// judged on the bytes on disk.
+void Wandeling::telOvergeslagen(DIR* d, const dirent* de, size_t lengte)
+{
+    bool map = de->d_type == DT_DIR;
+    if (de->d_type == DT_UNKNOWN || (de->d_type == DT_LNK && wijze_.volgLinks)) {
+        struct stat st;
+        const int vlag = wijze_.volgLinks ? 0 : AT_SYMLINK_NOFOLLOW;
+        map = ::fstatat(::dirfd(d), de->d_name, &st, vlag) == 0 && S_ISDIR(st.st_mode);
+    }
+    if (map ? wijze_.recursief : zoekPatronen(de->d_name, lengte, true, wxString()) != 0)
+        ++overgeslagen_;
+}
+
 void Wandeling::bezoek(DIR* d, const wxString& prefix)
 {
     const std::string bytePrefix(prefix.fn_str());
@@ -153,13 +170,17 @@ void Wandeling::bezoek(DIR* d, const wxString& prefix)
         }
         size_t lengte = 0;
         const bool ascii = isAscii(naam, lengte);
-        // Plain ASCII converts to itself both ways; other names take the
-        // toolkit's conversion, which need not give the same bytes back.
+        // Plain ASCII converts to itself both ways. Any other name must be
+        // UTF-8 (the CMake file is) and come back as the same bytes from
+        // the toolkit's conversion; otherwise no text could name the file.
         const wxString naamW = ascii ? wxString::FromAscii(naam, lengte)
                                      : wxString(naam, *wxConvFileName);
-        const bool heelTerug = ascii || std::strcmp(naamW.fn_str(), naam) == 0;
-        const bool betrouwbaar = zoekbaar && heelTerug
-            && bytePrefix.size() + lengte < PATH_MAX;
+        if (!ascii && (wxConvUTF8.ToWChar(nullptr, 0, naam, lengte) == wxCONV_FAILED
+                       || naamW.empty() || std::strcmp(naamW.fn_str(), naam) != 0)) {
+            telOvergeslagen(d, de, lengte);
+            continue;
+        }
+        const bool betrouwbaar = zoekbaar && bytePrefix.size() + lengte < PATH_MAX;
 
         if (isMap(de, prefix, naamW, betrouwbaar)) {
             if (wijze_.recursief)
@@ -221,7 +242,7 @@ wxString geefPrefix(const wxString& map)
 
 bool wandel(const wxString& map, const std::vector<wxString>& patronen,
             const WandelWijze& wijze, Volgorde volgorde,
-            const MapOntvanger& ontvanger)
+            const MapOntvanger& ontvanger, std::size_t* overgeslagen)
 {
     wxASSERT_MSG(patronen.size() <= 32, "te veel patronen voor één wandeling");
     if (map.empty())
@@ -229,7 +250,10 @@ bool wandel(const wxString& map, const std::vector<wxString>& patronen,
     DIR* d = ::opendir(map.fn_str());
     if (!d)
         return false;
-    Wandeling(patronen, wijze, volgorde, ontvanger).gaIn(d, geefPrefix(map));
+    std::size_t geteld = 0;
+    Wandeling(patronen, wijze, volgorde, ontvanger, geteld).gaIn(d, geefPrefix(map));
+    if (overgeslagen)
+        *overgeslagen += geteld;
     return true;
 }
 

@@ -16,11 +16,17 @@
 //  - patterns are matched case-sensitively against the file name with the
 //    toolkit's wildcard rules ('*' any run, '?' one character, '\' quotes);
 //  - a directory that cannot be opened is passed by silently;
+//  - unlike the toolkit, a name that is not valid UTF-8, or that the
+//    toolkit's file-name conversion does not give back byte for byte, is
+//    left out: no CMake text could name it. Such names are counted when
+//    they matter (a matching file, a directory a recursive walk would
+//    enter), so the caller can say how many were left out;
 //  - unlike the toolkit, a directory that is already on the path from the
 //    root (same device and inode, reached again through a link or a bind
 //    mount) is not entered again, so a recursive walk always ends.
 #include <wx/string.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -53,10 +59,11 @@ using MapOntvanger =
 enum class Volgorde { SubmappenEerst, EigenBestandenEerst };
 
 // Walks `map` with at most 32 patterns. Returns false when `map` itself
-// cannot be opened (nothing is then handed out).
+// cannot be opened (nothing is then handed out). The names left out are
+// added to `*overgeslagen` when it is given.
 bool wandel(const wxString& map, const std::vector<wxString>& patronen,
             const WandelWijze& wijze, Volgorde volgorde,
-            const MapOntvanger& ontvanger);
+            const MapOntvanger& ontvanger, std::size_t* overgeslagen = nullptr);
 
 // The toolkit's wildcard match of a name against a pattern; with puntApart
 // a name starting with a dot never matches.

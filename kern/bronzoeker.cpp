@@ -95,7 +95,7 @@ std::vector<wxString> geefPatronen(const Families& aan)
 }
 
 bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
-                       wxArrayString& gevonden)
+                       wxArrayString& gevonden, std::size_t* overgeslagen)
 {
     if (modus != ModusMap && modus != ModusRecursief)
         return true;
@@ -114,7 +114,7 @@ bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
                         emmers[i].push_back(pad);
             }
             return true;
-        });
+        }, overgeslagen);
     size_t totaal = gevonden.size();
     for (const auto& emmer : emmers)
         totaal += emmer.size();

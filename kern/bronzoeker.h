@@ -32,9 +32,11 @@ std::vector<wxString> geefPatronen(const Families& aan);
 // the whole tree (wxDIR_FILES | wxDIR_DIRS); hidden entries never. A file
 // matching two patterns appears twice; nothing is sorted or removed.
 // Other modes collect nothing. Returns false when `map` cannot be opened
-// (the caller raises "true == mag"), and then appends nothing.
+// (the caller raises "true == mag"), and then appends nothing. Names no
+// CMake text could name (see bronwandeling.h) are left out and added to
+// `*overgeslagen` when it is given.
 bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
-                       wxArrayString& gevonden);
+                       wxArrayString& gevonden, std::size_t* overgeslagen = nullptr);
 
 // The probe's found flags: found-C, found-C++, found-header, found-assembler.
 struct Aanwezig {

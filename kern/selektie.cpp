@@ -1,6 +1,20 @@
 #include "kern/selektie.h"
 
+#include <wx/translation.h>
+
 namespace kern {
+
+bool kanCMakeNoemen(const wxString& pad)
+{
+    return pad.find_first_of(wxS(";\\")) == wxString::npos;
+}
+
+wxString geefOvergeslagenMelding(std::size_t aantal)
+{
+    return wxString::Format(_("%lu names were left out: a CMake file cannot name a path that is not valid "
+                              "UTF-8 or that contains \";\" or \"\\\"."),
+                            static_cast<unsigned long>(aantal));
+}
 
 wxArrayString BronSelektie::voegToe(const wxArrayString& paden, const DubbelMelder& meldDubbel)
 {

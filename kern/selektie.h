@@ -11,11 +11,21 @@
 #include <wx/arrstr.h>
 #include <wx/string.h>
 
+#include <cstddef>
 #include <functional>
 #include <unordered_set>
 #include <vector>
 
 namespace kern {
+
+// CMake splits every list on ';' whatever the quoting, and reads '\' in a
+// source path as an escape or a separator: no CMake text names a path that
+// holds either, so such a path is never taken into the selection.
+bool kanCMakeNoemen(const wxString& pad);
+
+// The one message after an Add that left names out: those no CMake text
+// could name (not UTF-8, or holding ';' or '\').
+wxString geefOvergeslagenMelding(std::size_t aantal);
 
 class BronSelektie {
 public:

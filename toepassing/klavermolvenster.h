@@ -231,6 +231,8 @@ private:
     void wisselSchakelaar(StandSchakelaar& schakelaar);
     wxArrayString kiesBestanden(const wxString& map);
     void toonHuidigeLokatie();
-    int voegBronnenToe(const wxArrayString& paden);
+    // Appends the new paths checked, in one batch; a path no CMake text can
+    // name is counted in `overgeslagen` instead.
+    int voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen);
     void schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&));
 };

@@ -160,7 +160,7 @@ wxArrayString KlavermolVenster::kiesBestanden(const wxString& map)
     return volledig;
 }
 
-int KlavermolVenster::voegBronnenToe(const wxArrayString& paden)
+int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen)
 {
     wxBusyCursor bezig;
     // Asked once: the trace line per file is built only when it is kept.
@@ -170,7 +170,9 @@ int KlavermolVenster::voegBronnenToe(const wxArrayString& paden)
     for (const wxString& pad : paden) {
         if (spoor)
             wxLogDebug("OnAddCLick : voeg toe bestand: " + DesktopAppBasis::dubbeleQuotes(pad, false));
-        if (bronSelektie.voegToe(pad))
+        if (!kern::kanCMakeNoemen(pad))
+            ++overgeslagen;
+        else if (bronSelektie.voegToe(pad))
             nieuw.Add(pad);
         else
             wxLogMessage(pad + _(" won't be added since it is already in your selection list."));
@@ -193,6 +195,7 @@ void KlavermolVenster::OnAddClick(wxCommandEvent&)
     const wxFileName zoekMap = wxFileName::DirName(vindBestandenInDirs->GetPath());
     const wxString map = zoekMap.GetFullPath();
     wxArrayString gevonden;
+    std::size_t overgeslagen = 0;
     const int modus = voegToeModeKeuze->GetSelection();
     if (modus == kern::ModusBestanden) {
         gevonden = kiesBestanden(map);
@@ -200,7 +203,7 @@ void KlavermolVenster::OnAddClick(wxCommandEvent&)
         wxBusyCursor bezig;
         const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
                                                 voegSBestandenToe);
-        if (!kern::verzamelBestanden(map, modus, aan, gevonden))
+        if (!kern::verzamelBestanden(map, modus, aan, gevonden, &overgeslagen))
             wxFAIL_COND_MSG(true == mag, "(KlavermolVenster::OnAddClick) " + map);
     }
 
@@ -212,8 +215,11 @@ void KlavermolVenster::OnAddClick(wxCommandEvent&)
                                            "want to proceed?"),
                                          aantal),
                         _("More than 10 files found"), wxYES_NO | wxICON_QUESTION, this) == wxYES;
-    if (verder)
-        toegevoegd = voegBronnenToe(gevonden);
+    if (verder) {
+        toegevoegd = voegBronnenToe(gevonden, overgeslagen);
+        if (overgeslagen != 0)
+            wxLogWarning(kern::geefOvergeslagenMelding(overgeslagen));
+    }
 
     PopStatusText(0);
     PushStatusText(wxString::Format(_("A total of %d files and dirs was found in "), toegevoegd) + zoekMap.GetFullName()

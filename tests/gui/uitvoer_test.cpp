@@ -4,6 +4,7 @@
 
 #include <wx/checklst.h>
 #include <wx/choice.h>
+#include <wx/dir.h>
 #include <wx/filedlg.h>
 #include <wx/filepicker.h>
 #include <wx/notebook.h>
@@ -13,7 +14,9 @@
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
+#include <csignal>
 #include <fstream>
+#include <sys/resource.h>
 #include <iterator>
 
 namespace {
@@ -260,6 +263,33 @@ TEST_F(Uitvoer, AnUnwritableTargetShowsTheErrorAndKeepsTheText)
                                              "CMakeLists.txt"));
     EXPECT_TRUE(heeftLog(wxLOG_Error, "Failed to open output file " + pad + " for writing to."));
     EXPECT_EQ(v.uitvoerTekst->GetValue(), "tekst");
+}
+
+TEST_F(Uitvoer, AFullDiskShowsTheErrorAndKeepsTheOldFileAndTheText)
+{
+    start();
+    KlavermolVenster& v = venster();
+    const wxString map = v.outputDirPicker->GetPath();
+    const wxString pad = map + "/CMakeLists.txt";
+    std::ofstream(pad.ToStdString()) << "oud";
+    const wxString tekst('x', 100000);
+    v.uitvoerTekst->ChangeValue(tekst);
+    // The file-size limit makes the write fail as a full disk does.
+    rlimit oud{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &oud), 0);
+    const auto oudeAfhandeling = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit klein = oud;
+    klein.rlim_cur = 4096;
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &klein), 0);
+    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
+    setrlimit(RLIMIT_FSIZE, &oud);
+    std::signal(SIGXFSZ, oudeAfhandeling);
+    EXPECT_TRUE(heeftLog(wxLOG_Error, "Failed to open output file " + pad + " for writing to."));
+    EXPECT_EQ(leesBytes(pad), "oud");
+    EXPECT_EQ(v.uitvoerTekst->GetValue(), tekst);
+    wxArrayString bestanden;
+    wxDir::GetAllFiles(map, &bestanden, "CMakeLists.txt*", wxDIR_FILES | wxDIR_HIDDEN);
+    EXPECT_EQ(bestanden.size(), 1u);
 }
 
 TEST_F(Uitvoer, CancellingTheSaveDialogTouchesNothing)

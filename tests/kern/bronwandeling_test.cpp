@@ -2,11 +2,16 @@
 #include "kern/bronzoeker.h"
 
 #include "bronboom_test.h"
+#include "niemand_test.h"
 
 #include <wx/filefn.h>
 
+#include <wx/filename.h>
+
 #include <cstring>
 #include <random>
+#include <set>
+#include <sys/stat.h>
 
 namespace {
 
@@ -119,6 +124,59 @@ TEST(BronWandeling, UnopenableDirectoryGivesFalse)
                                   }));
         EXPECT_FALSE(geroepen);
     }
+}
+
+// The collected paths below `boom`, sorted, one per line.
+std::string geefGevonden(const TijdelijkeBoom& boom, int modus, std::size_t* overgeslagen = nullptr)
+{
+    kern::Families c;
+    c.c = true;
+    wxArrayString gevonden;
+    if (!kern::verzamelBestanden(boom.map(), modus, c, gevonden, overgeslagen))
+        return "cannot open";
+    std::set<std::string> namen;
+    for (const wxString& pad : gevonden)
+        namen.insert(pad.Mid(boom.map().length() + 1).utf8_string()
+                     + (wxFileName::Exists(pad) ? "" : " (not on disk)"));
+    std::string uit;
+    for (const std::string& naam : namen)
+        uit += naam + "\n";
+    return uit;
+}
+
+TEST(BronWandeling, NamesThatAreNotUtf8AreLeftOutAndCountedWhenTheyMatter)
+{
+    TijdelijkeBoom boom;
+    for (const char* b : {"goed.c", "caf\xc3\xa9.c", "caf\xe9.c", "oud\xe9.txt", "map\xe9/x.c", "map\xc3\xa9/y.c"})
+        boom.maakBestand(b);
+    std::size_t overgeslagen = 0;
+    // what is collected names a file on disk; the one directory counts only
+    // for the walk that would have entered it
+    EXPECT_EQ(geefGevonden(boom, kern::ModusMap, &overgeslagen), "caf\xc3\xa9.c\ngoed.c\n");
+    EXPECT_EQ(overgeslagen, 1u);
+    overgeslagen = 0;
+    EXPECT_EQ(geefGevonden(boom, kern::ModusRecursief, &overgeslagen),
+              "caf\xc3\xa9.c\ngoed.c\nmap\xc3\xa9/y.c\n");
+    EXPECT_EQ(overgeslagen, 2u);
+}
+
+TEST(BronWandeling, UnreadableEntriesArePassedByAndTheWalkEnds)
+{
+    TijdelijkeBoom boom;
+    for (const char* b : {"a.c", "dicht.c", "geheim/g.c", "half/h.c", "diep/lus/d.c"})
+        boom.maakBestand(b);
+    boom.maakLink("..", "diep/lus/terug");
+    ::chmod(boom.pad("").c_str(), 0755);
+    ::chmod(boom.pad("dicht.c").c_str(), 0);
+    ::chmod(boom.pad("geheim").c_str(), 0);
+    ::chmod(boom.pad("half").c_str(), 0644); // listable, not searchable
+    // An unreadable file is still a file of the tree; a directory that
+    // cannot be listed gives nothing; in one that can be listed but not
+    // searched the toolkit takes every name for a file.
+    EXPECT_EQ(alsNiemand([&] { return geefGevonden(boom, kern::ModusRecursief); }),
+              "a.c\ndicht.c\ndiep/lus/d.c\nhalf/h.c (not on disk)\n");
+    ::chmod(boom.pad("geheim").c_str(), 0755);
+    ::chmod(boom.pad("half").c_str(), 0755);
 }
 
 } // namespace

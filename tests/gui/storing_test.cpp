@@ -1,0 +1,46 @@
+// Names no CMake text can name, in the real window: Add leaves them out and
+// says once how many.
+#include "programma.h"
+
+#include <wx/checklst.h>
+#include <wx/choice.h>
+#include <wx/filepicker.h>
+
+#include <filesystem>
+#include <set>
+#include <fstream>
+
+class Storing : public ProgrammaTest
+{
+};
+
+TEST_F(Storing, AddLeavesOutNamesCMakeCannotNameAndSaysHowManyOnce)
+{
+    // made byte for byte: some of these names are not UTF-8
+    const std::string d = thuis.ToStdString() + "/d/";
+    for (const std::string& map : {d + "m\xe9", d + "m;n"})
+        std::filesystem::create_directories(map);
+    for (const std::string& pad : {d + "goed.c", d + "caf\xc3\xa9.c", d + "caf\xe9.c", d + "a;b.c", d + "a\\b.c",
+                                   d + "m\xe9/x.c", d + "m;n/y.c", d + "oud\xe9.txt"})
+        std::ofstream(pad) << "\n";
+    start();
+    KlavermolVenster& v = venster();
+    wxCommandEvent c(wxEVT_CHECKBOX, VoegCBestandenToeID);
+    v.ProcessWindowEvent(c);
+    v.vindBestandenInDirs->SetPath(thuis + "/d");
+    v.voegToeModeKeuze->SetSelection(2);
+    wxCommandEvent voegToe(wxEVT_BUTTON, wxID_ADD);
+    v.ProcessWindowEvent(voegToe);
+
+    std::set<wxString> lijst;
+    for (unsigned int i = 0; i < v.bestandSelektieLijst->GetCount(); ++i) {
+        const wxString pad = v.bestandSelektieLijst->GetString(i);
+        EXPECT_TRUE(wxFileName::FileExists(pad)) << pad;
+        lijst.insert(pad);
+    }
+    EXPECT_EQ(lijst, (std::set<wxString>{thuis + "/d/goed.c", thuis + wxString::FromUTF8("/d/caf\xc3\xa9.c")}));
+    const std::vector<LogRegel> waarschuwingen = logRegels(wxLOG_Warning);
+    ASSERT_EQ(waarschuwingen.size(), 1u);
+    EXPECT_EQ(waarschuwingen[0].tekst, "5 names were left out: a CMake file cannot name a path that is not valid "
+                                       "UTF-8 or that contains \";\" or \"\\\".");
+}

@@ -36,6 +36,26 @@ int voerUit(const wxString& opdracht, std::string* uitvoer = nullptr)
     return status;
 }
 
+wxString maakTop()
+{
+    char sjabloon[] = "/tmp/klavermol-bouw-XXXXXX";
+    const char* top = mkdtemp(sjabloon);
+    EXPECT_NE(top, nullptr);
+    return top != nullptr ? wxString(top) : wxString();
+}
+
+// Configures and builds `top` with CMake, then runs the program it made;
+// returns what the program printed.
+std::string bouwEnDraai(const wxString& top, const wxString& programma)
+{
+    std::string uitvoer;
+    EXPECT_EQ(voerUit("cmake -S '" + top + "' -B '" + top + "/bouw'"), 0);
+    EXPECT_EQ(voerUit("cmake --build '" + top + "/bouw'"), 0);
+    EXPECT_EQ(voerUit("'" + top + "/bouw/" + programma + "'", &uitvoer), 0);
+    wxFileName::Rmdir(top, wxPATH_RMDIR_RECURSIVE);
+    return uitvoer;
+}
+
 kern::GeneratorInvoer basis(const wxString& uitvoerDir)
 {
     kern::GeneratorInvoer in;
@@ -49,9 +69,7 @@ kern::GeneratorInvoer basis(const wxString& uitvoerDir)
 
 TEST(EchteBouw, ALibraryAndAProjectThatUsesItConfigureBuildAndRun)
 {
-    char sjabloon[] = "/tmp/klavermol-bouw-XXXXXX";
-    ASSERT_NE(mkdtemp(sjabloon), nullptr);
-    const wxString top = sjabloon;
+    const wxString top = maakTop();
     schrijf(top + "/main.c", "#include <stdio.h>\n#include \"rekenen.h\"\n"
                              "int main(void) { printf(\"%d\\n\", vermenigvuldig(6, 7)); return 0; }\n");
     schrijf(top + "/rekenen/rekenen.h", "int vermenigvuldig(int a, int b);\n");
@@ -81,19 +99,12 @@ TEST(EchteBouw, ALibraryAndAProjectThatUsesItConfigureBuildAndRun)
     kern::maakUitvoer(app, werk, tekst);
     ASSERT_TRUE(kern::schrijfTekstBestand(top + "/CMakeLists.txt", tekst));
 
-    ASSERT_EQ(voerUit("cmake -S " + top + " -B " + top + "/bouw"), 0);
-    ASSERT_EQ(voerUit("cmake --build " + top + "/bouw"), 0);
-    std::string uitvoer;
-    ASSERT_EQ(voerUit(top + "/bouw/demo", &uitvoer), 0);
-    EXPECT_EQ(uitvoer, "42\n");
-    wxFileName::Rmdir(top, wxPATH_RMDIR_RECURSIVE);
+    EXPECT_EQ(bouwEnDraai(top, "demo"), "42\n");
 }
 
 TEST(EchteBouw, NamesWithSpacesAndCMakeCharactersStillNameTheirFiles)
 {
-    char sjabloon[] = "/tmp/klavermol-namen-XXXXXX";
-    ASSERT_NE(mkdtemp(sjabloon), nullptr);
-    const wxString top = sjabloon;
+    const wxString top = maakTop();
     // (A backslash in a source name is escaped in the text as well, but CMake
     // cannot take such a source to a build.)
     const char* namen[] = {"met spatie.c", "geld$teken.c", "hek#je.c", "haak(1).c", "aanhalings'teken.c"};
@@ -119,10 +130,5 @@ TEST(EchteBouw, NamesWithSpacesAndCMakeCharactersStillNameTheirFiles)
     EXPECT_NE(tekst.Find("\"geld\\$teken.c\""), wxNOT_FOUND);
     ASSERT_TRUE(kern::schrijfTekstBestand(top + "/CMakeLists.txt", tekst));
 
-    ASSERT_EQ(voerUit("cmake -S '" + top + "' -B '" + top + "/bouw'"), 0);
-    ASSERT_EQ(voerUit("cmake --build '" + top + "/bouw'"), 0);
-    std::string uitvoer;
-    ASSERT_EQ(voerUit("'" + top + "/bouw/namen'", &uitvoer), 0);
-    EXPECT_EQ(uitvoer, "5\n");
-    wxFileName::Rmdir(top, wxPATH_RMDIR_RECURSIVE);
+    EXPECT_EQ(bouwEnDraai(top, "namen"), "5\n");
 }

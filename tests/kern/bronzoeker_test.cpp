@@ -16,6 +16,11 @@ std::vector<wxString> geefNamen(const wxArrayString& paden, const wxString& map)
 
 using Namen = std::vector<wxString>;
 
+std::string toon(const kern::Aanwezig& v)
+{
+    return std::to_string(v.c) + std::to_string(v.cpp) + std::to_string(v.h) + std::to_string(v.s);
+}
+
 TEST(BronZoeker, PatternsComeInTheAddCommandsOrder)
 {
     const struct {
@@ -40,99 +45,45 @@ TEST(BronZoeker, PatternsComeInTheAddCommandsOrder)
             << g.aan.c << g.aan.cpp << g.aan.h << g.aan.s;
 }
 
-class BronVerzameling : public ::testing::Test {
-protected:
-    wxArrayString verzamel(int modus, const kern::Families& aan, const wxString& map)
-    {
-        wxArrayString gevonden;
-        EXPECT_TRUE(kern::verzamelBestanden(map, modus, aan, gevonden));
-        return gevonden;
-    }
+// Unlike the toolkit's walk, a recursive collection ends on link cycles
+// and still follows the ordinary links.
+TEST(BronVerzameling, LinkCyclesEndAndOrdinaryLinksAreStillFollowed)
+{
     TijdelijkeBoom boom;
-};
-
-TEST_F(BronVerzameling, OneFilePerPatternShowsTheCollectionOrder)
-{
-    for (const char* b : {"e.hpp", "d.cxx", "c.cpp", "b.h", "a.c", "g.S", "f.s", "X.C", "y.CPP", "z.Hpp"})
-        boom.maakBestand(b);
-    const wxString map = boom.map();
-    EXPECT_EQ(geefNamen(verzamel(1, {true, true, true, false}, map), map),
-              (Namen{"a.c", "b.h", "c.cpp", "d.cxx", "e.hpp"}));
-    EXPECT_EQ(geefNamen(verzamel(1, {false, true, true, false}, map), map),
-              (Namen{"c.cpp", "d.cxx", "e.hpp", "b.h"}));
-    EXPECT_EQ(geefNamen(verzamel(2, {false, false, true, true}, map), map),
-              (Namen{"b.h", "e.hpp", "f.s", "g.S"}));
-}
-
-TEST_F(BronVerzameling, UpperCaseSIsFoundOnlyByItsOwnPattern)
-{
-    boom.maakBestand("foo.S");
-    const wxArrayString gevonden = verzamel(1, {false, false, false, true}, boom.map());
-    ASSERT_EQ(gevonden.size(), 1u);
-    EXPECT_EQ(verzamelPerPatroon(boom.map(), {"*.s"}, geefToolkitVlaggen(1)).size(), 0u);
-    EXPECT_EQ(gevonden, verzamelPerPatroon(boom.map(), {"*.S"}, geefToolkitVlaggen(1)));
-}
-
-TEST_F(BronVerzameling, HiddenFilesAndDirectoriesAreNeverCollected)
-{
-    for (const char* b : {".x.c", ".verborgen/y.c", "zicht/.w.c", "zicht/v.c", "z.c"})
-        boom.maakBestand(b);
-    boom.maakLink(boom.pad("zicht"), ".link");
-    const kern::Families c{true, false, false, false};
-    EXPECT_EQ(geefNamen(verzamel(1, c, boom.map()), boom.map()), (Namen{"z.c"}));
-    EXPECT_EQ(gesorteerd(verzamel(2, c, boom.map())),
-              (Namen{boom.map("z.c"), boom.map("zicht/v.c")}));
-}
-
-TEST_F(BronVerzameling, LinksInModeOneAreNotFollowedButModeTwoEntersLinkedDirectories)
-{
-    boom.maakBestand("echt/in.c");
-    boom.maakBestand("x.c");
-    boom.maakLink(boom.pad("x.c"), "lf.c");       // link to a file
-    boom.maakLink(boom.pad("echt"), "ld.c");      // link to a directory
-    boom.maakLink("nergens.c", "bl.c");           // broken link
-    const kern::Families c{true, false, false, false};
-    // mode 1 judges a link by itself: even the directory link is a file
-    EXPECT_EQ(gesorteerd(verzamel(1, c, boom.map())),
-              (Namen{boom.map("bl.c"), boom.map("ld.c"), boom.map("lf.c"), boom.map("x.c")}));
-    EXPECT_EQ(gesorteerd(verzamel(2, c, boom.map())),
-              (Namen{boom.map("bl.c"), boom.map("echt/in.c"), boom.map("ld.c/in.c"),
-                     boom.map("lf.c"), boom.map("x.c")}));
-}
-
-TEST_F(BronVerzameling, LinkCyclesEndAndOrdinaryLinksAreStillFollowed)
-{
     boom.maakBestand("a/x.c");
     boom.maakBestand("b/y.c");
-    boom.maakLink(boom.pad(""), "a/terug");  // back to the root
+    boom.maakLink(boom.pad(""), "a/terug"); // back to the root
     boom.maakLink(".", "zelf");
-    const kern::Families c{true, false, false, false};
-    EXPECT_EQ(gesorteerd(verzamel(2, c, boom.map())), (Namen{boom.map("a/x.c"), boom.map("b/y.c")}));
-
-    // two links that point at each other's directory: each is entered
-    // once, from the other side
-    boom.maakLink("../b", "a/naarB");
+    boom.maakLink("../b", "a/naarB");       // each entered once, from the other side
     boom.maakLink("../a", "b/naarA");
-    EXPECT_EQ(gesorteerd(verzamel(2, c, boom.map())),
-              (Namen{boom.map("a/naarB/y.c"), boom.map("a/x.c"), boom.map("b/naarA/x.c"),
-                     boom.map("b/y.c")}));
+    wxArrayString gevonden;
+    ASSERT_TRUE(kern::verzamelBestanden(boom.map(), 2, {true, false, false, false}, gevonden));
+    EXPECT_EQ(gesorteerd(gevonden), (Namen{boom.map("a/naarB/y.c"), boom.map("a/x.c"), boom.map("b/naarA/x.c"),
+                                           boom.map("b/y.c")}));
 }
 
-TEST_F(BronVerzameling, UnopenableDirectoryOtherModesAndNoSwitches)
+// An unopenable directory and the modes without a walk leave the found
+// paths and the found flags as they were; new paths are appended behind.
+TEST(BronVerzameling, UnopenableDirectoriesAndOtherModesChangeNothing)
 {
+    TijdelijkeBoom boom;
     boom.maakBestand("x.c");
-    const kern::Families c{true, false, false, false};
+    const kern::Families c{true, false, false, false}, alles{true, true, true, true};
     wxArrayString gevonden;
     gevonden.Add("oud");
-    EXPECT_FALSE(kern::verzamelBestanden(boom.map("ontbreekt"), 2, c, gevonden));
-    EXPECT_FALSE(kern::verzamelBestanden(boom.map("ontbreekt"), 1, kern::Families{}, gevonden));
+    for (int modus : {0, 1, 2}) {
+        if (modus != 0)
+            EXPECT_FALSE(kern::verzamelBestanden(boom.map("ontbreekt"), modus, c, gevonden));
+        kern::Aanwezig v{false, true, false, true};
+        EXPECT_FALSE(kern::onderzoekMap(boom.map("ontbreekt"), modus, alles, v));
+        EXPECT_EQ(toon(v), "0101");
+    }
     for (int modus : {0, 3, -1})
         EXPECT_TRUE(kern::verzamelBestanden(boom.map(), modus, c, gevonden));
     EXPECT_TRUE(kern::verzamelBestanden(boom.map(), 1, kern::Families{}, gevonden));
     EXPECT_EQ(gevonden, wxArrayString(1, "oud"));
-    // appends behind what is there
     EXPECT_TRUE(kern::verzamelBestanden(boom.map(), 1, c, gevonden));
-    EXPECT_EQ(gevonden.size(), 2u);
+    ASSERT_EQ(gevonden.size(), 2u);
     EXPECT_EQ(gevonden[1], boom.map("x.c"));
 }
 
@@ -175,11 +126,6 @@ kern::Aanwezig onderzoekStapVoorStap(const wxString& map, int modus, const kern:
     return v;
 }
 
-std::string toon(const kern::Aanwezig& v)
-{
-    return std::to_string(v.c) + std::to_string(v.cpp) + std::to_string(v.h) + std::to_string(v.s);
-}
-
 class BronOnderzoek : public ::testing::TestWithParam<unsigned> {};
 
 TEST_P(BronOnderzoek, AnswersLikeTheStepByStepProbe)
@@ -215,37 +161,6 @@ TEST(BronOnderzoekGeval, HppAloneIsReplacedByTheHeaderSearchWhenCIsOff)
         wxArrayString gevonden;
         ASSERT_TRUE(kern::verzamelBestanden(boom.map(), modus, aan, gevonden));
         EXPECT_EQ(geefNamen(gevonden, boom.map()), (Namen{"a.cpp", "b.hpp"}));
-    }
-}
-
-TEST(BronOnderzoekGeval, ModeZeroLooksAtTheDirectoryItselfWhateverTheSwitches)
-{
-    TijdelijkeBoom boom;
-    boom.maakBestand(".verborgen.c");
-    boom.maakBestand("onder/x.cpp");
-    boom.maakBestand("y.S");
-    kern::Aanwezig v{false, true, true, false};
-    ASSERT_TRUE(kern::onderzoekMap(boom.map(), 0, kern::Families{}, v));
-    EXPECT_EQ(toon(v), "1001"); // hidden files count, no recursion
-    v = kern::Aanwezig{true, true, true, true};
-    ASSERT_TRUE(kern::onderzoekMap(boom.map(), 1, {true, true, false, false}, v));
-    EXPECT_EQ(toon(v), "0011");
-}
-
-TEST(BronOnderzoekGeval, OtherModesAndUnopenableDirectoriesChangeNothing)
-{
-    TijdelijkeBoom boom;
-    boom.maakBestand("x.c");
-    const kern::Families alles{true, true, true, true};
-    for (int modus : {3, -1, 7}) {
-        kern::Aanwezig v{false, true, false, true};
-        EXPECT_TRUE(kern::onderzoekMap(boom.map(), modus, alles, v));
-        EXPECT_EQ(toon(v), "0101");
-    }
-    for (int modus : {0, 1, 2}) {
-        kern::Aanwezig v{false, true, false, true};
-        EXPECT_FALSE(kern::onderzoekMap(boom.map("ontbreekt"), modus, alles, v));
-        EXPECT_EQ(toon(v), "0101");
     }
 }
 

@@ -2,19 +2,12 @@
 #include "kern/tekst.h"
 
 #include <gtest/gtest.h>
-#include <wx/fileconf.h>
-#include <wx/sstream.h>
 #include <wx/utils.h>
 
-TEST(Tekst, DubbeleQuotes)
+TEST(Tekst, QuotesAndTheDateLine)
 {
     EXPECT_EQ(kern::dubbeleQuotes("naam", false), "\"naam\"");
     EXPECT_EQ(kern::dubbeleQuotes("naam", true), " \"naam\" ");
-    EXPECT_EQ(kern::dubbeleQuotes("", true), " \"\" ");
-}
-
-TEST(Tekst, GeneratieDatumFollowsSourceDateEpochInUtc)
-{
     wxSetEnv("SOURCE_DATE_EPOCH", "1599485122");
     EXPECT_EQ(kern::geefGeneratieDatum(), "2020-09-07 13:25:22");
     wxSetEnv("SOURCE_DATE_EPOCH", "not a number");
@@ -50,26 +43,4 @@ TEST(Sjablonen, DefaultsAreTheBuiltInTexts)
     EXPECT_EQ(s.includeKommando,
               "## Include this file where you would want to compile the listed source files (stored in variable "
               "SRCS).\n## and for including the listed include_directories directives.");
-}
-
-TEST(Sjablonen, DynamicAndObjectCommandsAreReadButNeverWritten)
-{
-    wxStringInputStream leeg("");
-    wxFileConfig config(leeg);
-    kern::Sjablonen s = kern::geefStandaardSjablonen();
-    s.biebKommando = "static edited";
-    s.dynBiebKommando = "dynamic edited";
-    s.objektBiebKommando = "object edited";
-    s.kopieerrechtMededeling = "";
-    kern::schrijfSjablonen(config, s);
-
-    EXPECT_EQ(config.Read("/Configuratie/BiebKommando"), "static edited");
-    EXPECT_FALSE(config.HasEntry("/Configuratie/DynBiebKommando"));
-    EXPECT_FALSE(config.HasEntry("/Configuratie/ObjektBiebKommando"));
-    EXPECT_TRUE(config.HasEntry("/Configuratie/KopieerrechtMededeling"));
-
-    const kern::Sjablonen terug = kern::leesSjablonen(config);
-    EXPECT_EQ(terug.biebKommando, "static edited");
-    EXPECT_EQ(terug.kopieerrechtMededeling, "");
-    EXPECT_EQ(terug.dynBiebKommando, kern::geefStandaardSjablonen().dynBiebKommando);
 }

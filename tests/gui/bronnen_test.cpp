@@ -1,4 +1,6 @@
-// Add: collecting sources into the "Source Files" list in every mode.
+// Add: collecting sources into the "Source Files" list in every mode, the
+// question above 10 files, duplicates, the status line and the trace
+// lines, the probe behind Add's enabling, and the file-type switches.
 #include "programma.h"
 
 #include <wx/checklst.h>
@@ -8,16 +10,18 @@
 #include <wx/menu.h>
 #include <wx/notebook.h>
 #include <wx/testing.h>
+#include <wx/textctrl.h>
 
 #include <fstream>
 
 namespace {
 
+// Checks the file dialog of mode 0, then picks `pad` or cancels.
 class KiesBestanden : public wxExpectModalBase<wxFileDialog, KiesBestanden>
 {
 public:
-    KiesBestanden(const wxString& pad, const wxString& map, const wxString& wildcard)
-        : pad(pad), map(map), wildcard(wildcard) {}
+    KiesBestanden(const wxString& map, const wxString& wildcard, const wxString& pad = wxString())
+        : map(map), wildcard(wildcard), pad(pad) {}
 
 protected:
     int OnInvoked(wxFileDialog* dlg) const override
@@ -27,12 +31,14 @@ protected:
         EXPECT_EQ(dlg->GetWildcard(), wildcard);
         for (long stijl : {wxFD_OPEN, wxFD_FILE_MUST_EXIST, wxFD_CHANGE_DIR, wxFD_MULTIPLE})
             EXPECT_TRUE(dlg->HasFlag(stijl)) << stijl;
+        if (pad.empty())
+            return wxID_CANCEL;
         dlg->SetPath(pad);
         return wxID_OK;
     }
 
 private:
-    wxString pad, map, wildcard;
+    wxString map, wildcard, pad;
 };
 
 } // namespace
@@ -66,15 +72,18 @@ protected:
         venster().ProcessWindowEvent(e);
     }
 
-    std::vector<wxString> lijst()
+    std::vector<wxString> lijst() const
     {
-        std::vector<wxString> uit;
-        for (unsigned int i = 0; i < venster().bestandSelektieLijst->GetCount(); ++i)
-            uit.push_back(venster().bestandSelektieLijst->GetString(i));
-        return uit;
+        const wxArrayString regels = venster().bestandSelektieLijst->GetStrings();
+        return std::vector<wxString>(regels.begin(), regels.end());
     }
 
-    wxString status() { return venster().GetStatusBar()->GetStatusText(0); }
+    wxString status() const { return venster().GetStatusBar()->GetStatusText(0); }
+
+    static wxString totaal(int n)
+    {
+        return wxString::Format("A total of %d files and dirs was found in  and added to the selection.", n);
+    }
 };
 
 TEST_F(Bronnen, ModeOneCollectsPatternByPatternWithoutSorting)
@@ -90,88 +99,94 @@ TEST_F(Bronnen, ModeOneCollectsPatternByPatternWithoutSorting)
     EXPECT_EQ(lijst(), (std::vector<wxString>{d + "/z.c", d + "/k.h", d + "/m.cpp", d + "/a.cxx", d + "/b.hpp"}));
     for (unsigned int i = 0; i < 5; ++i)
         EXPECT_TRUE(venster().bestandSelektieLijst->IsChecked(i));
-    EXPECT_EQ(status(), "A total of 5 files and dirs was found in  and added to the selection.");
+    EXPECT_EQ(status(), totaal(5));
     EXPECT_EQ(venster().recenteLokaties.GetHistoryFile(0), d + "/");
+    EXPECT_TRUE(heeftLog(wxLOG_Debug, "The selected directory resulted in the addition of 5 files"));
+    EXPECT_TRUE(heeftLog(wxLOG_Debug, "OnAddCLick : voeg toe bestand: \"" + d + "/k.h\""));
 }
 
-TEST_F(Bronnen, WithCOffTheHeadersComeAfterCpp)
+// Ten found files are added at once; eleven ask first, also when most of
+// them are known. Known entries keep their place and check mark, each is
+// reported, and each Add replaces its own status line.
+TEST_F(Bronnen, AboveTenFilesAddAsksAndKnownFilesAreReported)
 {
     const wxString d = thuis + "/d";
-    for (const char* naam : {"d/a.cpp", "d/b.hpp", "d/c.h", "d/sub/e.cpp"})
-        maak(naam);
-    start();
-    schakel(VoegCPPBestandenToeID);
-    schakel(VoegHBestandenToeID);
-    zoekIn(d, 2);
-    voegToe();
-    EXPECT_EQ(lijst(), (std::vector<wxString>{d + "/sub/e.cpp", d + "/a.cpp", d + "/b.hpp", d + "/c.h"}));
-}
-
-TEST_F(Bronnen, ElevenFilesAskFirstAndNoAddsNothing)
-{
-    for (int i = 0; i < 11; ++i)
+    maak("d/template.c"); // the exclusion term excludes nothing
+    for (int i = 1; i < 10; ++i)
         maak(wxString::Format("d/f%02d.c", i));
     start();
+    KlavermolVenster& v = venster();
+    ASSERT_EQ(v.uitsluitTerm->GetValue(), "template");
+    const wxString welkom = status();
+    v.PopStatusText(0);
+    const wxString onder = status();
+    v.PushStatusText(welkom, 0);
+
     schakel(VoegCBestandenToeID);
-    zoekIn(thuis + "/d", 1);
+    zoekIn(d, 1);
+    voegToe(); // any dialog would fail the test
+    ASSERT_EQ(v.bestandSelektieLijst->GetCount(), 10u);
+    EXPECT_EQ(status(), totaal(10));
+    const std::vector<wxString> eerst = lijst();
+    v.bestandSelektieLijst->Check(0, false);
+
+    maak("d/f10.c");
     const auto vraag = [](int antwoord) {
         return BeantwoordVraag("11 files were found and will be added to the selection list.\nDo you want to proceed?",
                                "More than 10 files found", antwoord);
     };
     wxTEST_DIALOG(voegToe(), vraag(wxID_NO));
-    EXPECT_TRUE(lijst().empty());
-    EXPECT_EQ(status(), "A total of 0 files and dirs was found in  and added to the selection.");
+    EXPECT_EQ(lijst(), eerst);
+    EXPECT_EQ(status(), totaal(0));
+
+    v.selektieBoek->SetSelection(2);
     wxTEST_DIALOG(voegToe(), vraag(wxID_YES));
-    EXPECT_EQ(lijst().size(), 11u);
+    const std::vector<wxString> na = lijst();
+    ASSERT_EQ(na.size(), 11u);
+    EXPECT_EQ(std::vector<wxString>(na.begin(), na.begin() + 10), eerst);
+    EXPECT_EQ(na.back(), d + "/f10.c");
+    EXPECT_FALSE(v.bestandSelektieLijst->IsChecked(0));
+    EXPECT_TRUE(v.bestandSelektieLijst->IsChecked(10));
+    EXPECT_EQ(v.selektieBoek->GetSelection(), 0);
+    int meldingen = 0;
+    for (const LogRegel& r : logRegels(wxLOG_Message))
+        meldingen += r.tekst.EndsWith(" won't be added since it is already in your selection list.");
+    EXPECT_EQ(meldingen, 10);
+    EXPECT_TRUE(heeftLog(wxLOG_Message, d + "/f03.c won't be added since it is already in your selection list."));
+    EXPECT_EQ(status(), totaal(1));
+    v.PopStatusText(0); // one level down: neither an Add's line nor the welcome
+    EXPECT_EQ(status(), onder);
 }
 
-TEST_F(Bronnen, TenFilesAreAddedWithoutAQuestion)
-{
-    for (int i = 0; i < 10; ++i)
-        maak(wxString::Format("d/f%02d.c", i));
-    start();
-    schakel(VoegCBestandenToeID);
-    zoekIn(thuis + "/d", 1);
-    voegToe(); // any dialog would fail the test
-    EXPECT_EQ(lijst().size(), 10u);
-}
-
-TEST_F(Bronnen, TheSameDirectoryTwiceReportsEveryDuplicate)
-{
-    maak("d/a.c");
-    maak("d/b.c");
-    start();
-    schakel(VoegCBestandenToeID);
-    zoekIn(thuis + "/d", 1);
-    voegToe();
-    venster().selektieBoek->SetSelection(2);
-    voegToe();
-    EXPECT_EQ(lijst().size(), 2u);
-    EXPECT_TRUE(heeftLog(wxLOG_Message, thuis + "/d/a.c won't be added since it is already in your selection list."));
-    EXPECT_TRUE(heeftLog(wxLOG_Message, thuis + "/d/b.c won't be added since it is already in your selection list."));
-    EXPECT_EQ(status(), "A total of 0 files and dirs was found in  and added to the selection.");
-    EXPECT_EQ(venster().selektieBoek->GetSelection(), 0);
-}
-
+// Mode 0 asks for files with the wildcard; with only headers on there is
+// none. A cancelled dialog, and no mode at all, still finish the command.
 TEST_F(Bronnen, ModeZeroAsksForFilesWithTheWildcard)
 {
+    const wxString d = thuis + "/d";
     const wxString bestand = maak("d/gekozen.c");
     start();
-    schakel(VoegCBestandenToeID);
+    KlavermolVenster& v = venster();
     schakel(VoegHBestandenToeID);
-    zoekIn(thuis + "/d", 0);
-    wxTEST_DIALOG(voegToe(), KiesBestanden(bestand, thuis + "/d/", "C files (*.c)|*.c|H files (*.h)|*.h"));
-    EXPECT_EQ(lijst(), std::vector<wxString>{bestand});
-    EXPECT_EQ(status(), "A total of 1 files and dirs was found in  and added to the selection.");
-}
+    zoekIn(d, 0);
+    v.selektieBoek->SetSelection(1);
+    wxTEST_DIALOG(voegToe(), KiesBestanden(d + "/", ""));
+    EXPECT_TRUE(lijst().empty());
+    EXPECT_EQ(status(), totaal(0));
+    EXPECT_EQ(v.selektieBoek->GetSelection(), 0);
+    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), d + "/");
 
-TEST_F(Bronnen, OnlyHeadersGiveTheFileDialogNoWildcard)
-{
-    maak("d/x.h");
-    start();
-    schakel(VoegHBestandenToeID);
-    zoekIn(thuis + "/d", 0);
-    wxTEST_DIALOG(voegToe(), KiesBestanden(thuis + "/d/x.h", thuis + "/d/", ""));
+    schakel(VoegCBestandenToeID);
+    wxTEST_DIALOG(voegToe(), KiesBestanden(d + "/", "C files (*.c)|*.c|H files (*.h)|*.h", bestand));
+    EXPECT_EQ(lijst(), std::vector<wxString>{bestand});
+    EXPECT_EQ(status(), totaal(1));
+
+    v.voegToeModeKeuze->SetSelection(wxNOT_FOUND);
+    v.selektieBoek->SetSelection(2);
+    v.recenteLokaties.AddFileToHistory(thuis);
+    voegToe(); // no dialog, nothing collected
+    EXPECT_EQ(lijst().size(), 1u);
+    EXPECT_EQ(v.selektieBoek->GetSelection(), 0);
+    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), d + "/");
 }
 
 TEST_F(Bronnen, ADirectoryThatCannotBeOpenedAssertsAndStillRecordsIt)
@@ -182,7 +197,7 @@ TEST_F(Bronnen, ADirectoryThatCannotBeOpenedAssertsAndStillRecordsIt)
     zoekIn(thuis + "/bestaat-niet", 1);
     voegToe();
     EXPECT_EQ(aantalAsserts("true == mag"), 1);
-    EXPECT_EQ(status(), "A total of 0 files and dirs was found in  and added to the selection.");
+    EXPECT_EQ(status(), totaal(0));
     EXPECT_EQ(venster().recenteLokaties.GetHistoryFile(0), thuis + "/bestaat-niet/");
 }
 

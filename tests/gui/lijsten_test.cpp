@@ -1,5 +1,5 @@
-// The list operations on lists that the window filled itself: clear keeps
-// list and model in step, select all by page, the double click on a tree.
+// Clear, Select all, the double click on a directory and dropping on the
+// search-location picker.
 #include "programma.h"
 
 #include "toepassing/bestanddroptarget.h"
@@ -17,15 +17,18 @@
 class Lijsten : public ProgrammaTest
 {
 protected:
-    // Files under the home; then the window adds that tree recursively
-    // with C and header files on.
-    void voegBoomToe(std::initializer_list<const char*> paden)
+    void maak(std::initializer_list<const char*> paden)
     {
         for (const char* pad : paden) {
             const std::filesystem::path vol = (thuis + "/" + pad).ToStdString();
             std::filesystem::create_directories(vol.parent_path());
             std::ofstream(vol) << "\n";
         }
+    }
+
+    // The window adds the tree under "src" recursively, C and headers on.
+    void voegBoomToe()
+    {
         KlavermolVenster& v = venster();
         v.voegCBestandenToe = true;
         v.voegHBestandenToe = true;
@@ -48,63 +51,104 @@ protected:
     void vul(wxCheckListBox* lijst, int aantal)
     {
         for (int i = 0; i < aantal; ++i)
-            lijst->Append(wxString::Format("/lib/l%02d", i));
+            lijst->Check(static_cast<unsigned>(lijst->Append(wxString::Format("/lib/l%02d", i))), false);
+    }
+
+    int aangevinkt(wxCheckListBox* lijst)
+    {
+        int n = 0;
+        for (unsigned int i = 0; i < lijst->GetCount(); ++i)
+            n += lijst->IsChecked(i);
+        return n;
+    }
+
+    BeantwoordVraag vraag(int aantal, int antwoord) const
+    {
+        return BeantwoordVraag(wxString::Format("%d files are present the visible selection list.\nDo you want to "
+                                                "remove them all?",
+                                                aantal),
+                               "More than 10 files found", antwoord);
     }
 };
 
-TEST_F(Lijsten, AfterClearTheSameFilesAreNewAgain)
-{
-    start();
-    voegBoomToe({"src/a.c", "src/b.h"});
-    ASSERT_EQ(venster().bestandSelektieLijst->GetCount(), 2u);
-    opdracht(wxEVT_BUTTON, wxID_CLEAR);
-    EXPECT_EQ(venster().bestandSelektieLijst->GetCount(), 0u);
-    EXPECT_EQ(venster().bronSelektie.aantal(), 0u);
-    opdracht(wxEVT_BUTTON, wxID_ADD);
-    EXPECT_EQ(venster().bestandSelektieLijst->GetCount(), 2u);
-    for (const LogRegel& r : logRegels(wxLOG_Message))
-        EXPECT_FALSE(r.tekst.Contains("won't be added")) << r.tekst;
-}
-
-TEST_F(Lijsten, ClearOnTheLibrariesPageAsksWithItsOwnCountAndLeavesTheRest)
+// Nine entries go without a question, ten ask; after a clear the same
+// files are new again.
+TEST_F(Lijsten, ClearAsksFromTenEntriesOnAndKeepsTheDuplicateCheckInStep)
 {
     start();
     KlavermolVenster& v = venster();
-    voegBoomToe({"src/a.c"});
+    maak({"src/a.c", "src/b.h", "src/c.c", "src/d.c", "src/e.c", "src/f.c", "src/g.c", "src/h.c", "src/i.c"});
+    voegBoomToe();
+    ASSERT_EQ(v.bestandSelektieLijst->GetCount(), 9u);
+    opdracht(wxEVT_BUTTON, wxID_CLEAR);
+    EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 0u);
+    voegBoomToe();
+    EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 9u);
+    for (const LogRegel& r : logRegels(wxLOG_Message))
+        EXPECT_FALSE(r.tekst.Contains("won't be added")) << r.tekst;
+
+    v.bestandSelektieLijst->Append("/x.c");
+    wxTEST_DIALOG(opdracht(wxEVT_BUTTON, wxID_CLEAR), vraag(10, wxID_NO));
+    EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 10u);
+    wxTEST_DIALOG(opdracht(wxEVT_BUTTON, wxID_CLEAR), vraag(10, wxID_YES));
+    EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 0u);
+}
+
+TEST_F(Lijsten, ClearActsOnTheVisibleListOnly)
+{
+    start();
+    KlavermolVenster& v = venster();
+    maak({"src/a.c"});
+    voegBoomToe();
     vul(v.biebLijst, 12);
+    vul(v.includeLijst, 2);
     v.selektieBoek->SetSelection(1);
     v.selekteerAllesKnop->SetValue(true);
-    const wxString vraag = "12 files are present the visible selection list.\nDo you want to remove them all?";
-    wxTEST_DIALOG(opdracht(wxEVT_BUTTON, wxID_CLEAR), BeantwoordVraag(vraag, "More than 10 files found", wxID_YES));
+    wxTEST_DIALOG(opdracht(wxEVT_BUTTON, wxID_CLEAR), vraag(12, wxID_YES));
     EXPECT_EQ(v.biebLijst->GetCount(), 0u);
+    v.selektieBoek->SetSelection(2);
+    opdracht(wxEVT_BUTTON, wxID_CLEAR);
+    EXPECT_EQ(v.includeLijst->GetCount(), 0u);
     EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 1u);
     EXPECT_TRUE(v.selekteerAllesKnop->GetValue()); // the toggle is not told
     EXPECT_EQ(v.recenteLokaties.GetCount(), 1u);
 }
 
-TEST_F(Lijsten, SelectAllOnTheLibrariesPageActsThereOnly)
+// On the "Include files" page the toggle acts on the "Libraries" list.
+TEST_F(Lijsten, SelectAllFollowsItsPageTable)
 {
     start();
     KlavermolVenster& v = venster();
-    voegBoomToe({"src/a.c"});
-    vul(v.biebLijst, 3);
+    vul(v.bestandSelektieLijst, 3);
+    vul(v.biebLijst, 2);
     vul(v.includeLijst, 2);
-    v.selektieBoek->SetSelection(1);
+
+    v.selektieBoek->SetSelection(2);
     opdracht(wxEVT_TOGGLEBUTTON, wxID_SELECTALL, 1);
-    for (unsigned int i = 0; i < 3; ++i)
-        EXPECT_TRUE(v.biebLijst->IsChecked(i));
-    EXPECT_FALSE(v.includeLijst->IsChecked(0));
-    EXPECT_TRUE(v.bestandSelektieLijst->IsChecked(0));
+    EXPECT_EQ(v.selekteerAllesKnop->GetLabel(), "Deselect All");
+    EXPECT_EQ(aangevinkt(v.biebLijst), 2);
+    EXPECT_EQ(aangevinkt(v.includeLijst), 0);
+    EXPECT_EQ(aangevinkt(v.bestandSelektieLijst), 0);
+
+    v.selektieBoek->SetSelection(0);
+    opdracht(wxEVT_TOGGLEBUTTON, wxID_SELECTALL, 1);
+    EXPECT_EQ(aangevinkt(v.bestandSelektieLijst), 3);
+    v.selektieBoek->SetSelection(1);
     opdracht(wxEVT_TOGGLEBUTTON, wxID_SELECTALL, 0);
     EXPECT_EQ(v.selekteerAllesKnop->GetLabel(), "Select All");
-    EXPECT_FALSE(v.biebLijst->IsChecked(2));
-    EXPECT_TRUE(v.bestandSelektieLijst->IsChecked(0)); // the source list is on another page
+    EXPECT_EQ(aangevinkt(v.biebLijst), 0);
+    EXPECT_EQ(aangevinkt(v.bestandSelektieLijst), 3);
+
+    v.biebLijst->Clear();
+    opdracht(wxEVT_TOGGLEBUTTON, wxID_SELECTALL, 1); // an empty list: only the label changes
+    EXPECT_EQ(v.selekteerAllesKnop->GetLabel(), "Deselect All");
 }
 
-TEST_F(Lijsten, DoubleClickInvertsOneDirectoryOfATreeTheWindowAdded)
+TEST_F(Lijsten, DoubleClickInvertsOneDirectory)
 {
     start();
-    voegBoomToe({"src/a/x.c", "src/a/y.h", "src/a/sub/z.c", "src/b/x.c"});
+    maak({"src/a/x.c", "src/a/y.h", "src/a/sub/z.c", "src/b/x.c"});
+    voegBoomToe();
     KlavermolVenster& v = venster();
     ASSERT_EQ(v.bestandSelektieLijst->GetCount(), 4u);
     v.bestandSelektieLijst->Check(rij("/src/a/y.h"), false);
@@ -127,11 +171,12 @@ TEST_F(Lijsten, DoubleClickInvertsOneDirectoryOfATreeTheWindowAdded)
     EXPECT_TRUE(aan("/src/a/sub/z.c"));
 }
 
-TEST_F(Lijsten, ADropNeitherProbesNorRecordsTheLocation)
+// A drop sets the picker to the directory part of the first path only; it
+// neither probes, nor records the location, nor adds anything.
+TEST_F(Lijsten, DroppingSetsThePickerToTheDirectoryPart)
 {
     const wxString proj = thuis + "/proj";
-    wxFileName::Mkdir(proj + "/src", wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
-    std::ofstream((proj + "/src/a.c").ToStdString()) << "\n";
+    maak({"proj/a.c", "proj/b.c", "proj/src/c.c"});
     start();
     KlavermolVenster& v = venster();
     v.voegCBestandenToe = true;
@@ -139,11 +184,19 @@ TEST_F(Lijsten, ADropNeitherProbesNorRecordsTheLocation)
     ASSERT_FALSE(v.heeftCBestanden);
     BestandDropTarget doel(&v);
     wxArrayString twee;
-    twee.Add(proj + "/src/a.c");
+    twee.Add(proj + "/a.c");
     twee.Add(thuis + "/elders/b.c"); // ignored
     EXPECT_TRUE(doel.OnDropFiles(0, 0, twee));
-    EXPECT_EQ(v.vindBestandenInDirs->GetPath(), proj + "/src");
+    EXPECT_EQ(v.vindBestandenInDirs->GetPath(), proj);
     EXPECT_FALSE(v.heeftCBestanden); // a probe would have found a.c
     EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 0u);
     EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 0u);
+
+    EXPECT_TRUE(doel.OnDropFiles(0, 0, wxArrayString(1, proj + "/src/c.c")));
+    EXPECT_EQ(v.vindBestandenInDirs->GetPath(), proj + "/src");
+    EXPECT_TRUE(doel.OnDropFiles(0, 0, wxArrayString(1, proj + "/src"))); // a directory: its parent
+    EXPECT_EQ(v.vindBestandenInDirs->GetPath(), proj);
+    EXPECT_FALSE(doel.OnDropFiles(0, 0, wxArrayString(1, thuis + "/weg/x.c")));
+    EXPECT_EQ(v.vindBestandenInDirs->GetPath(), proj);
+    EXPECT_EQ(doel.OnDragOver(0, 0, wxDragCopy), wxDragCopy);
 }

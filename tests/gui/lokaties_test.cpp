@@ -1,27 +1,29 @@
-// Back, forward, home, elsewhere and the recent locations.
+// Back, forward, home, elsewhere and the recent locations with their dialog.
 #include "programma.h"
 
 #include "dialogs/recentelokatievenster.h"
 
-#include <wx/dirdlg.h>
-#include <wx/choice.h>
+#include <wx/button.h>
 #include <wx/checklst.h>
+#include <wx/choice.h>
+#include <wx/dirdlg.h>
 #include <wx/filepicker.h>
 #include <wx/listbox.h>
+#include <wx/sizer.h>
 #include <wx/testing.h>
 
 #include <fstream>
 #include <stdexcept>
 
-
 namespace {
 
-// GTK's directory chooser hands back its choice only from the screen; this
-// answer puts the choice where the dialog keeps it after an OK.
+// Answers the directory dialog of "Go somewhere else": GTK's chooser hands
+// back its choice only from the screen, so an OK puts the choice where the
+// dialog keeps it.
 class KiesMap : public wxExpectModalBase<wxDirDialog, KiesMap>
 {
 public:
-    explicit KiesMap(const wxString& pad) : pad(pad) {}
+    explicit KiesMap(const wxString& pad = wxString()) : pad(pad) {}
 
 protected:
     struct Keuze : wxDirDialog
@@ -35,12 +37,38 @@ protected:
         EXPECT_TRUE(dlg->GetPath().empty());
         EXPECT_TRUE(dlg->HasFlag(wxRESIZE_BORDER));
         EXPECT_TRUE(dlg->HasFlag(wxDD_DEFAULT_STYLE));
+        if (pad.empty())
+            return wxID_CANCEL;
         dlg->*Keuze::pad = pad;
         return wxID_OK;
     }
 
 private:
     wxString pad;
+};
+
+// Picks a row of the recent-locations dialog, then answers.
+class KiesRecent : public wxExpectModalBase<RecenteLokatieVenster, KiesRecent>
+{
+public:
+    KiesRecent(int rij, int antwoord) : rij(rij), antwoord(antwoord) {}
+
+protected:
+    int OnInvoked(RecenteLokatieVenster* dlg) const override
+    {
+        EXPECT_EQ(dlg->GetTitle(), "Recent locations where you searched for CMake files");
+        EXPECT_EQ(dlg->GetId(), 10000);
+        for (long stijl : {wxCAPTION, wxSYSTEM_MENU, wxCLOSE_BOX, wxRESIZE_BORDER, wxSTAY_ON_TOP, wxTAB_TRAVERSAL,
+                           wxFULL_REPAINT_ON_RESIZE})
+            EXPECT_TRUE(dlg->HasFlag(stijl)) << stijl;
+        EXPECT_GE(dlg->GetSize().x, 500);
+        dlg->geefLijst()->SetSelection(rij);
+        return antwoord;
+    }
+
+private:
+    int rij;
+    int antwoord;
 };
 
 } // namespace
@@ -77,15 +105,21 @@ protected:
     wxString picker() { return venster().vindBestandenInDirs->GetPath(); }
 };
 
+// A, B, C picked: index 3, so the first Back shows C again. Each step sets
+// the picker and probes the location without recording it.
 TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
 {
     const wxString a = map("A"), b = map("B"), c = map("C");
+    std::ofstream((a + "/x.c").ToStdString()) << "\n";
     start();
+    KlavermolVenster& v = venster();
+    v.voegCBestandenToe = true;
+    v.voegToeModeKeuze->SetSelection(1);
     kies(a);
     kies(b);
     kies(c);
-    EXPECT_EQ(venster().lokatieGeschiedenis.geefAantal(), 3u);
-    EXPECT_EQ(venster().lokatieGeschiedenis.geefIndex(), 3u);
+    EXPECT_EQ(v.lokatieGeschiedenis.geefIndex(), 3u);
+    EXPECT_FALSE(v.heeftCBestanden);
     EXPECT_FALSE(aan(wxID_FORWARD));
     knop(wxID_BACKWARD);
     EXPECT_EQ(picker(), c + "/");
@@ -93,27 +127,16 @@ TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
     EXPECT_EQ(picker(), b + "/");
     knop(wxID_BACKWARD);
     EXPECT_EQ(picker(), a + "/");
+    EXPECT_TRUE(v.heeftCBestanden);
+    EXPECT_TRUE(aan(wxID_ADD));
     EXPECT_FALSE(aan(wxID_BACKWARD));
     EXPECT_TRUE(aan(wxID_FORWARD));
+    wxCommandEvent terug(wxEVT_BUTTON, wxID_BACKWARD);
+    v.OnBACKWARDClick(terug); // at index 0 it stays there
+    EXPECT_EQ(picker(), a + "/");
     knop(wxID_FORWARD);
     EXPECT_EQ(picker(), b + "/");
-}
-
-TEST_F(Lokaties, ANewLocationInsideTheHistoryLandsBeforeThePreviousEntry)
-{
-    const wxString a = map("A"), b = map("B"), c = map("C"), d = map("D");
-    start();
-    kies(a);
-    kies(b);
-    kies(c);
-    knop(wxID_BACKWARD);
-    knop(wxID_BACKWARD);
-    kies(d);
-    std::vector<wxString> paden;
-    for (const wxFileName& f : venster().lokatieGeschiedenis.geefVoorwerpen())
-        paden.push_back(f.GetFullPath());
-    EXPECT_EQ(paden, (std::vector<wxString>{d + "/", a + "/", b + "/", c + "/"}));
-    EXPECT_EQ(venster().lokatieGeschiedenis.geefIndex(), 1u);
+    EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 3u);
 }
 
 TEST_F(Lokaties, ForwardOnAnEmptyHistoryReachesTheOutOfRangeError)
@@ -136,104 +159,14 @@ TEST_F(Lokaties, HomeShowsTheParentOfHomeAndRemembersHome)
     EXPECT_EQ(venster().recenteLokaties.GetCount(), 1u);
 }
 
-TEST_F(Lokaties, ElsewhereCancelledChangesNothing)
-{
-    // GTK's directory chooser reports a choice only from the screen, so a
-    // test can answer it only with Cancel.
-    start();
-    const wxString voor = picker();
-    wxCommandEvent e(wxEVT_MENU, wxID_MORE);
-    class Annuleer : public wxExpectModalBase<wxDirDialog, Annuleer>
-    {
-    protected:
-        int OnInvoked(wxDirDialog*) const override { return wxID_CANCEL; }
-    };
-    wxTEST_DIALOG(venster().ProcessWindowEvent(e), Annuleer());
-    EXPECT_EQ(venster().recenteLokaties.GetCount(), 0u);
-    EXPECT_EQ(picker(), voor);
-}
-
-TEST_F(Lokaties, TheRecentListKeepsNineAndOffersThemNewestFirst)
-{
-    start();
-    KlavermolVenster& v = venster();
-    EXPECT_FALSE(aan(VorigeLokatieID));
-    for (int i = 0; i < 10; ++i)
-        v.recenteLokaties.AddFileToHistory(map(wxString::Format("r%d", i)));
-    ASSERT_EQ(v.recenteLokaties.GetCount(), 9u);
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), thuis + "/r9");
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(8), thuis + "/r1");
-    EXPECT_TRUE(aan(VorigeLokatieID));
-
-    class Kies : public wxExpectModalBase<RecenteLokatieVenster, Kies>
-    {
-    protected:
-        int OnInvoked(RecenteLokatieVenster* dlg) const override
-        {
-            EXPECT_EQ(dlg->GetTitle(), "Recent locations where you searched for CMake files");
-            EXPECT_EQ(dlg->geefLijst()->GetCount(), 9u);
-            dlg->geefLijst()->SetSelection(1);
-            return wxID_OK;
-        }
-    };
-    wxTEST_DIALOG(knop(VorigeLokatieID), Kies());
-    EXPECT_EQ(picker(), thuis + "/r8");
-    EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 0u);
-}
-
-TEST_F(Lokaties, PickingAKnownDirectoryOnlyMovesTheIndexToIt)
-{
-    const wxString a = map("A"), b = map("B");
-    start();
-    kies(a); // one location at index 1: Back leads to it, then nowhere to go
-    EXPECT_TRUE(aan(wxID_BACKWARD));
-    EXPECT_FALSE(aan(wxID_FORWARD));
-    knop(wxID_BACKWARD);
-    EXPECT_EQ(picker(), a + "/");
-    EXPECT_FALSE(aan(wxID_BACKWARD));
-    EXPECT_FALSE(aan(wxID_FORWARD));
-    kies(b);
-    kies(a);
-    EXPECT_EQ(venster().lokatieGeschiedenis.geefAantal(), 2u);
-    EXPECT_EQ(venster().lokatieGeschiedenis.geefIndex(), 0u);
-    EXPECT_FALSE(aan(wxID_BACKWARD));
-    EXPECT_TRUE(aan(wxID_FORWARD));
-    knop(wxID_FORWARD);
-    EXPECT_EQ(picker(), b + "/");
-    EXPECT_EQ(venster().lokatieGeschiedenis.geefIndex(), 1u);
-    EXPECT_FALSE(aan(wxID_FORWARD));
-}
-
-TEST_F(Lokaties, AStepShowsTheLocationAndProbesItWithoutRecordingIt)
-{
-    const wxString a = map("A"), b = map("B");
-    std::ofstream((a + "/x.c").ToStdString()) << "\n";
-    start();
-    KlavermolVenster& v = venster();
-    v.voegCBestandenToe = true;
-    v.voegToeModeKeuze->SetSelection(1);
-    kies(a);
-    kies(b);
-    ASSERT_FALSE(v.heeftCBestanden);
-    knop(wxID_BACKWARD); // index 2 to 1: B again
-    EXPECT_EQ(picker(), b + "/");
-    knop(wxID_BACKWARD);
-    EXPECT_EQ(picker(), a + "/");
-    EXPECT_TRUE(v.heeftCBestanden);
-    EXPECT_TRUE(aan(wxID_ADD));
-    wxCommandEvent terug(wxEVT_BUTTON, wxID_BACKWARD);
-    v.OnBACKWARDClick(terug); // at index 0 it stays there
-    EXPECT_EQ(picker(), a + "/");
-    EXPECT_EQ(v.lokatieGeschiedenis.geefIndex(), 0u);
-    EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 2u);
-}
-
-TEST_F(Lokaties, MoreConfirmedRemembersTheChoiceAndLeavesThePicker)
+TEST_F(Lokaties, ElsewhereRemembersTheChoiceAndLeavesThePicker)
 {
     const wxString elders = map("elders");
     start();
     const wxString voor = picker();
     wxCommandEvent e(wxEVT_MENU, wxID_MORE);
+    wxTEST_DIALOG(venster().ProcessWindowEvent(e), KiesMap());
+    EXPECT_EQ(venster().recenteLokaties.GetCount(), 0u);
     wxTEST_DIALOG(venster().ProcessWindowEvent(e), KiesMap(elders));
     EXPECT_EQ(venster().recenteLokaties.GetCount(), 1u);
     EXPECT_EQ(venster().recenteLokaties.GetHistoryFile(0), elders);
@@ -241,47 +174,62 @@ TEST_F(Lokaties, MoreConfirmedRemembersTheChoiceAndLeavesThePicker)
     EXPECT_EQ(venster().lokatieGeschiedenis.geefAantal(), 0u);
 }
 
-TEST_F(Lokaties, TheRecentDialogIsBuiltAsAskedAndCancelChangesNothing)
-{
-    const wxString r = map("r");
-    start();
-    KlavermolVenster& v = venster();
-    v.recenteLokaties.AddFileToHistory(r);
-    const wxString voor = picker();
-    class Annuleer : public wxExpectModalBase<RecenteLokatieVenster, Annuleer>
-    {
-    protected:
-        int OnInvoked(RecenteLokatieVenster* dlg) const override
-        {
-            EXPECT_EQ(dlg->GetId(), 10000);
-            for (long stijl : {wxCAPTION, wxSYSTEM_MENU, wxCLOSE_BOX, wxRESIZE_BORDER, wxSTAY_ON_TOP, wxTAB_TRAVERSAL,
-                               wxFULL_REPAINT_ON_RESIZE})
-                EXPECT_TRUE(dlg->HasFlag(stijl)) << stijl;
-            EXPECT_GE(dlg->GetSize().x, 500);
-            dlg->geefLijst()->SetSelection(0);
-            return wxID_CANCEL;
-        }
-    };
-    wxTEST_DIALOG(knop(VorigeLokatieID), Annuleer());
-    EXPECT_EQ(picker(), voor);
-}
-
-TEST_F(Lokaties, EveryAddRemembersItsDirectoryNewestFirstUpToNine)
+// Every Add remembers its directory, also when nothing was found; nine are
+// kept, newest first, and the dialog sets the picker to the picked one.
+TEST_F(Lokaties, TheRecentLocationsKeepNineAndOfferThemNewestFirst)
 {
     start();
     KlavermolVenster& v = venster();
+    EXPECT_FALSE(aan(VorigeLokatieID));
     v.voegCBestandenToe = true;
     v.voegToeModeKeuze->SetSelection(1);
     for (int i = 0; i < 10; ++i) {
         v.vindBestandenInDirs->SetPath(map(wxString::Format("d%d", i)));
-        knop(wxID_ADD); // nothing found: still remembered
+        knop(wxID_ADD);
     }
     ASSERT_EQ(v.recenteLokaties.GetCount(), 9u);
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), thuis + "/d9/");
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(8), thuis + "/d1/");
-    v.vindBestandenInDirs->SetPath(thuis + "/d5");
-    knop(wxID_ADD); // a known one moves to the front, nothing drops out
-    EXPECT_EQ(v.recenteLokaties.GetCount(), 9u);
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), thuis + "/d5/");
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(8), thuis + "/d1/");
+    EXPECT_TRUE(aan(VorigeLokatieID));
+
+    wxTEST_DIALOG(knop(VorigeLokatieID), KiesRecent(1, wxID_CANCEL));
+    EXPECT_EQ(picker(), thuis + "/d9");
+    wxTEST_DIALOG(knop(VorigeLokatieID), KiesRecent(1, wxID_OK));
+    EXPECT_EQ(picker(), thuis + "/d8/");
+    EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 0u);
+}
+
+TEST_F(Lokaties, TheRecentDialogIsAListAboveOkAndCancel)
+{
+    start();
+    RecenteLokatieVenster dlg(&venster());
+    wxListBox* lijst = dlg.geefLijst();
+    EXPECT_EQ(lijst->GetId(), 10002);
+    EXPECT_EQ(lijst->GetMinSize(), wxSize(500, 200));
+    EXPECT_TRUE(lijst->HasFlag(wxLB_SINGLE) && lijst->HasFlag(wxLB_HSCROLL));
+    wxWindow* ok = dlg.FindWindow(wxID_OK);
+    wxWindow* annuleer = dlg.FindWindow(wxID_CANCEL);
+    EXPECT_EQ(ok->GetLabel(), "OK");
+    EXPECT_EQ(annuleer->GetLabel(), "Cancel");
+    EXPECT_EQ(ok->GetPosition().y, annuleer->GetPosition().y);
+    EXPECT_LT(ok->GetPosition().x, annuleer->GetPosition().x);
+    EXPECT_GT(ok->GetPosition().y, lijst->GetRect().GetBottom());
+    EXPECT_EQ(dlg.GetClientSize(), dlg.GetSizer()->GetMinSize());
+
+    wxArrayString paden;
+    for (const char* p : {"/home/user/src/newest", "/home/user/src/a", "/opt/oldest"})
+        paden.Add(p);
+    dlg.vulpaden(paden);
+    EXPECT_EQ(lijst->GetStrings(), paden);
+    dlg.UpdateWindowUI(wxUPDATE_UI_RECURSE);
+    EXPECT_EQ(dlg.geefGekozenPad(), wxNOT_FOUND);
+    EXPECT_FALSE(ok->IsEnabled());
+    EXPECT_TRUE(annuleer->IsEnabled());
+    lijst->SetSelection(2);
+    dlg.UpdateWindowUI(wxUPDATE_UI_RECURSE);
+    EXPECT_EQ(dlg.geefGekozenPad(), 2);
+    EXPECT_TRUE(ok->IsEnabled());
+    lijst->SetSelection(wxNOT_FOUND);
+    dlg.UpdateWindowUI(wxUPDATE_UI_RECURSE);
+    EXPECT_FALSE(ok->IsEnabled());
 }

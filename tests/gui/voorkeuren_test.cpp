@@ -130,75 +130,9 @@ protected:
     }
 };
 
-TEST_F(Voorkeuren, TheDialogHasFourPagesWithImagesAndThreeButtons)
-{
-    start();
-    open(Gebruiker(wxID_CANCEL, [this](Preferences& dlg) {
-        EXPECT_STREQ(dlg.GetClassInfo()->GetClassName(), L"Preferences");
-        EXPECT_EQ(dlg.GetId(), 10000);
-        EXPECT_EQ(dlg.GetTitle(), "Preferences");
-        EXPECT_EQ(dlg.GetParent(), &venster());
-        EXPECT_EQ(dlg.GetSheetStyle(), wxPROPSHEET_DEFAULT);
-
-        wxBookCtrlBase* boek = dlg.GetBookCtrl();
-        const char* titels[] = {"General", "CMake Project cmd", "CMake Library cmd", "CMake Include cmd"};
-        const int paneelIds[] = {10001, 10003, 10004, 10007};
-        ASSERT_EQ(boek->GetPageCount(), 4u);
-        for (int i = 0; i < 4; ++i) {
-            EXPECT_EQ(boek->GetPageText(i), titels[i]);
-            EXPECT_EQ(boek->GetPage(i)->GetId(), paneelIds[i]);
-            EXPECT_EQ(boek->GetPageImage(i), i);
-        }
-        ASSERT_NE(boek->GetImageList(), nullptr);
-        EXPECT_EQ(boek->GetImageList()->GetImageCount(), 4);
-        EXPECT_EQ(boek->GetImageList()->GetSize(), wxSize(16, 16));
-
-        for (int knop : {wxID_OK, wxID_CANCEL, wxID_HELP})
-            EXPECT_NE(dlg.FindWindow(knop), nullptr) << knop;
-
-        EXPECT_STREQ(dlg.overzet.GetClassInfo()->GetClassName(), L"PrefsOverzet");
-        EXPECT_EQ(dlg.overzet.waarde, 0);
-    }));
-}
-
-TEST_F(Voorkeuren, PageImagesComeFromTheFourKnownNamesOnly)
-{
-    start();
-    open(Gebruiker(wxID_CANCEL, [](Preferences& dlg) {
-        const wxIcon boeken = dlg.GetIconResource("../../../grafisch/ikonen/32x32/icons8-books.png");
-        ASSERT_TRUE(boeken.IsOk());
-        EXPECT_EQ(boeken.GetSize(), wxSize(16, 16));
-        // known to the program, but not a page image
-        EXPECT_FALSE(dlg.GetIconResource("../../../grafisch/ikonen/32x32/icons8-home.png").IsOk());
-        EXPECT_FALSE(dlg.GetIconResource("icons8-books.png").IsOk());
-    }));
-}
-
-TEST_F(Voorkeuren, EachTextSitsOnItsPageUnderItsLabel)
-{
-    start();
-    open(Gebruiker(wxID_CANCEL, [](Preferences& dlg) {
-        std::vector<std::vector<wxTextCtrl*>> perPagina(4);
-        for (int i = 0; i < 4; ++i)
-            verzamelTeksten(dlg.GetBookCtrl()->GetPage(i), perPagina[i]);
-        std::vector<std::vector<wxTextCtrl*>> verwacht(4);
-        for (const VeldRegel& v : velden) {
-            wxTextCtrl* tekst = dlg.geefTekst(v.lid);
-            ASSERT_NE(tekst, nullptr) << v.sleutel;
-            verwacht[v.pagina].push_back(tekst);
-            EXPECT_EQ(tekst->GetId(), v.id) << v.sleutel;
-            EXPECT_EQ(labelVan(tekst), wxString(v.label)) << v.sleutel;
-            EXPECT_EQ(tekst->IsMultiLine(), v.meerRegelig) << v.sleutel;
-            EXPECT_TRUE(tekst->HasFlag(wxTE_PROCESS_TAB) && tekst->HasFlag(wxWANTS_CHARS)
-                        && tekst->HasFlag(wxSUNKEN_BORDER)) << v.sleutel;
-            if (v.breedte > 0)
-                EXPECT_EQ(tekst->GetMinSize().x, dlg.ConvertDialogToPixels(wxSize(v.breedte, 0)).x) << v.sleutel;
-        }
-        EXPECT_EQ(perPagina, verwacht);
-    }));
-}
-
-TEST_F(Voorkeuren, TheTextsShowTheWindowsTemplates)
+// As built the grid rows hold their placeholder; shown, every text holds
+// the window's template, on its page under its label.
+TEST_F(Voorkeuren, TheDialogAsShown)
 {
     start();
     const kern::Sjablonen standaard = kern::geefStandaardSjablonen();
@@ -206,11 +140,49 @@ TEST_F(Voorkeuren, TheTextsShowTheWindowsTemplates)
     open(Gebruiker(
         wxID_CANCEL,
         [&](Preferences& dlg) {
-            for (const VeldRegel& v : velden)
-                EXPECT_EQ(dlg.geefTekst(v.lid)->GetValue(), standaard.*v.lid) << v.sleutel;
+            EXPECT_EQ(dlg.GetId(), 10000);
+            EXPECT_EQ(dlg.GetTitle(), "Preferences");
+            EXPECT_EQ(dlg.GetParent(), &venster());
+            for (int knop : {wxID_OK, wxID_CANCEL, wxID_HELP})
+                EXPECT_NE(dlg.FindWindow(knop), nullptr) << knop;
+
+            wxBookCtrlBase* boek = dlg.GetBookCtrl();
+            const char* titels[] = {"General", "CMake Project cmd", "CMake Library cmd", "CMake Include cmd"};
+            const int paneelIds[] = {10001, 10003, 10004, 10007};
+            ASSERT_EQ(boek->GetPageCount(), 4u);
+            ASSERT_NE(boek->GetImageList(), nullptr);
+            EXPECT_EQ(boek->GetImageList()->GetImageCount(), 4);
+            std::vector<std::vector<wxTextCtrl*>> perPagina(4), verwacht(4);
+            for (int i = 0; i < 4; ++i) {
+                EXPECT_EQ(boek->GetPageText(i), titels[i]);
+                EXPECT_EQ(boek->GetPage(i)->GetId(), paneelIds[i]);
+                EXPECT_EQ(boek->GetPageImage(i), i);
+                verzamelTeksten(boek->GetPage(i), perPagina[i]);
+            }
+            for (const VeldRegel& v : velden) {
+                wxTextCtrl* tekst = dlg.geefTekst(v.lid);
+                ASSERT_NE(tekst, nullptr) << v.sleutel;
+                verwacht[v.pagina].push_back(tekst);
+                EXPECT_EQ(tekst->GetValue(), standaard.*v.lid) << v.sleutel;
+                EXPECT_EQ(tekst->GetId(), v.id) << v.sleutel;
+                EXPECT_EQ(labelVan(tekst), wxString(v.label)) << v.sleutel;
+                EXPECT_EQ(tekst->IsMultiLine(), v.meerRegelig) << v.sleutel;
+                EXPECT_TRUE(tekst->HasFlag(wxTE_PROCESS_TAB) && tekst->HasFlag(wxWANTS_CHARS) &&
+                            tekst->HasFlag(wxSUNKEN_BORDER))
+                    << v.sleutel;
+                if (v.breedte > 0)
+                    EXPECT_EQ(tekst->GetMinSize().x, dlg.ConvertDialogToPixels(wxSize(v.breedte, 0)).x)
+                        << v.sleutel;
+            }
+            EXPECT_EQ(perPagina, verwacht);
+
+            // page images come from the four known names only
+            const wxIcon boeken = dlg.GetIconResource("../../../grafisch/ikonen/32x32/icons8-books.png");
+            ASSERT_TRUE(boeken.IsOk());
+            EXPECT_EQ(boeken.GetSize(), wxSize(16, 16));
+            EXPECT_FALSE(dlg.GetIconResource("../../../grafisch/ikonen/32x32/icons8-home.png").IsOk());
         },
         [](Preferences& dlg) {
-            // as built: only the grid rows hold their placeholder
             for (const VeldRegel& v : velden)
                 EXPECT_EQ(dlg.geefTekst(v.lid)->GetValue(), isRasterRegel(v) ? "test" : "") << v.sleutel;
         }));
@@ -234,29 +206,28 @@ TEST_F(Voorkeuren, CancelHandsNothingBack)
             EXPECT_EQ(config->Read(sleutelPad(v), "missing"), kern::geefStandaardSjablonen().*v.lid) << v.sleutel;
 }
 
-TEST_F(Voorkeuren, OkTakesEmptiedTextsAndExitWritesTheSevenSavedOnes)
+// OK takes every text as it is, emptied ones too; opening again shows them,
+// and the exit writes the seven that are saved.
+TEST_F(Voorkeuren, OkTakesTheTextsAndTheExitWritesTheSevenSavedOnes)
 {
     start();
-    open(Gebruiker(wxID_OK, [](Preferences& dlg) { zetAlle(dlg, [](const VeldRegel&) { return wxString(); }); }));
-    verwachtSjablonen(kern::Sjablonen{});
+    const auto bevestigd = [](const VeldRegel& v) {
+        return v.id % 2 == 0 ? wxString() : wxString("## confirmed\n\t") + v.sleutel;
+    };
+    open(Gebruiker(wxID_OK, [&](Preferences& dlg) { zetAlle(dlg, bevestigd); }));
+    for (const VeldRegel& v : velden)
+        EXPECT_EQ(venster().sjablonen.*v.lid, bevestigd(v)) << v.sleutel;
+    open(Gebruiker(wxID_CANCEL, [&](Preferences& dlg) {
+        for (const VeldRegel& v : velden)
+            EXPECT_EQ(dlg.geefTekst(v.lid)->GetValue(), bevestigd(v)) << v.sleutel;
+    }));
     stop();
     auto config = leesInstellingen();
     for (const VeldRegel& v : velden) {
         EXPECT_EQ(config->HasEntry(sleutelPad(v)), v.bewaard) << v.sleutel;
         if (v.bewaard)
-            EXPECT_EQ(config->Read(sleutelPad(v), "missing"), "") << v.sleutel;
+            EXPECT_EQ(config->Read(sleutelPad(v), "missing"), bevestigd(v)) << v.sleutel;
     }
-}
-
-TEST_F(Voorkeuren, ReopeningShowsTheConfirmedTexts)
-{
-    start();
-    auto bevestigd = [](const VeldRegel& v) { return wxString("## confirmed\n\t") + v.sleutel; };
-    open(Gebruiker(wxID_OK, [&](Preferences& dlg) { zetAlle(dlg, bevestigd); }));
-    open(Gebruiker(wxID_CANCEL, [&](Preferences& dlg) {
-        for (const VeldRegel& v : velden)
-            EXPECT_EQ(dlg.geefTekst(v.lid)->GetValue(), bevestigd(v)) << v.sleutel;
-    }));
 }
 
 TEST_F(Voorkeuren, EditedLibraryCommandsHoldForTheRunButOnlyTheStaticOneIsStored)

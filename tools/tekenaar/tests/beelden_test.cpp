@@ -49,23 +49,19 @@ std::size_t geefGrootte(const std::string& naam)
 
 } // namespace
 
-TEST(Beelden, KnoppenZijn32PixelsEnVrijstaand)
+TEST(Beelden, ButtonsAndProgramIconsStandFree)
 {
     for (const char* naam : {"thuis", "tijdmachine", "terug", "vooruit", "groenplus", "blauwplus", "insluiten",
                              "taal", "algemeen", "projekt", "boeken", "schakeling"})
         verwachtVrijstaand(std::string("klavermol/ikonen/") + naam + ".png", 32);
     verwachtVrijstaand("klavermol/ikonen/uitvoeren.png", 48);
-}
-
-TEST(Beelden, ProgrammaIkonenInAlleMaten)
-{
     for (int n : {16, 32, 48, 64, 128, 256}) {
         const std::string maat = std::to_string(n) + "x" + std::to_string(n);
         verwachtVrijstaand("icons/hicolor/" + maat + "/apps/klavermol.png", n);
     }
 }
 
-TEST(Beelden, JpegsHebbenHunMaat)
+TEST(Beelden, JpegsAndLogoHaveTheirSizes)
 {
     const struct { const char* naam; int breedte, hoogte; } jpegs[] = {
         {"klavermol/ikonen/opstart.jpg", 400, 260},
@@ -77,19 +73,15 @@ TEST(Beelden, JpegsHebbenHunMaat)
         EXPECT_EQ(beeld.GetWidth(), j.breedte) << j.naam;
         EXPECT_EQ(beeld.GetHeight(), j.hoogte) << j.naam;
     }
-}
-
-TEST(Beelden, OpstartBeeldEnLogoBlijvenKlein)
-{
+    // the splash image is about 17 KB, the logo small
     const std::size_t opstart = geefGrootte("klavermol/ikonen/opstart.jpg");
     EXPECT_GT(opstart, 15000u);
     EXPECT_LT(opstart, 19000u);
-    const wxImage logo = laad("klavermol/ikonen/zelvano_klein.png");
-    EXPECT_EQ(logo.GetWidth(), 96);
+    EXPECT_EQ(laad("klavermol/ikonen/zelvano_klein.png").GetWidth(), 96);
     EXPECT_LT(geefGrootte("klavermol/ikonen/zelvano_klein.png"), 20000u);
 }
 
-TEST(Beelden, VlaggenStaanMetRandOmEenVeld)
+TEST(Beelden, FlagsHaveABorderAroundAField)
 {
     for (const char* land : {"nederland", "duitsland", "grootbritannie", "frankrijk", "spanje", "portugal", "israel",
                              "italie", "zweden", "japan", "china", "taiwan", "korea", "rusland"}) {
@@ -103,9 +95,8 @@ TEST(Beelden, VlaggenStaanMetRandOmEenVeld)
     }
 }
 
-TEST(Beelden, VlaggenVerschillenVanElkaar)
+TEST(Beelden, NoTwoFlagsAreDrawnAlike)
 {
-    // Each flag has its own picture: no two are drawn the same.
     std::vector<wxImage> gezien;
     for (int i = 0; i <= static_cast<int>(Vlag::Rusland); ++i) {
         const wxImage vlag = maakVlag(static_cast<Vlag>(i)).geefBeeld(true);
@@ -115,7 +106,7 @@ TEST(Beelden, VlaggenVerschillenVanElkaar)
     }
 }
 
-TEST(Beelden, JpegKwaliteitWordtGekozenVoorDeDoelgrootte)
+TEST(Beelden, JpegQualityIsChosenForTheTargetSize)
 {
     const wxString pad = wxFileName::CreateTempFileName("klavermol-tekenaar");
     for (std::size_t doel : {9000u, 17000u}) {

@@ -196,8 +196,6 @@ TEST_F(Venster, TheStateIsWrittenBackInFullAtExit)
     v.voegToeModeKeuze->SetSelection(1);
     v.sjablonen.kopieerrechtMededeling = "";
     v.sjablonen.biebKommando = "statisch";
-    v.sjablonen.dynBiebKommando = "dynamisch";
-    v.sjablonen.objektBiebKommando = "objekt";
     v.GetMenuBar()->Check(AutoZetUitvoerDirID, false);
     v.voegSBestandenToe = true;
     v.uitsluitTerm->ChangeValue("");
@@ -225,8 +223,6 @@ TEST_F(Venster, TheStateIsWrittenBackInFullAtExit)
     EXPECT_EQ(config->Read("BiebIncludeNaam"), "AllIncludeDirs");
     EXPECT_EQ(config->Read("BiebKommando"), "statisch");
     EXPECT_EQ(config->Read("IncludeKommando"), kern::geefStandaardSjablonen().includeKommando);
-    EXPECT_FALSE(config->HasEntry("DynBiebKommando"));
-    EXPECT_FALSE(config->HasEntry("ObjektBiebKommando"));
     EXPECT_FALSE(config->ReadBool("AutoDirToewijzing", true));
     EXPECT_FALSE(config->ReadBool("VoegCBestandenToe", true));
     EXPECT_TRUE(config->ReadBool("VoegSBestandenToe", false));

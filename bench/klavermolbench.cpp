@@ -1,12 +1,13 @@
 // klavermol-bench: the real main window on a real tree, timed.
 //   klavermol-bench add DIR       the probe and Add, recursive, all families
-//   klavermol-bench execute DIR   Add, then Execute for a project in DIR
+//   klavermol-bench execute DIR   Add, then Execute for a project in DIR and Save
 // Prints key=value lines. Needs a display (Xvfb will do).
 #include "kern/bronzoeker.h"
 #include "toepassing/klavermol.h"
 #include "toepassing/klavermolvenster.h"
 
 #include <wx/checklst.h>
+#include <wx/filedlg.h>
 #include <wx/choice.h>
 #include <wx/filepicker.h>
 #include <wx/init.h>
@@ -14,6 +15,7 @@
 #include <wx/testing.h>
 #include <wx/textctrl.h>
 #include <wx/tglbtn.h>
+#include <wx/utils.h>
 
 #include <chrono>
 #include <cstdio>
@@ -69,6 +71,23 @@ void print(const char* sleutel, double waarde)
     std::printf("%s=%.3f\n", sleutel, waarde);
 }
 
+// Answers the save dialog with a path.
+class BewaarIn : public wxExpectModalBase<wxFileDialog, BewaarIn>
+{
+public:
+    explicit BewaarIn(const wxString& pad) : pad(pad) {}
+
+protected:
+    int OnInvoked(wxFileDialog* dlg) const override
+    {
+        dlg->SetPath(pad);
+        return wxID_OK;
+    }
+
+private:
+    wxString pad;
+};
+
 // Points the window at the tree with every family on, recursively, and adds.
 double voegToe(KlavermolVenster& v, const wxString& map)
 {
@@ -84,6 +103,17 @@ double voegToe(KlavermolVenster& v, const wxString& map)
         wxCommandEvent klik(wxEVT_BUTTON, wxID_ADD);
         wxTEST_DIALOG(v.ProcessWindowEvent(klik), wxExpectModal<wxMessageDialog>(wxYES).Optional());
     });
+}
+
+// Lets the toolkit lay out and paint what changed, as the event loop would
+// right after a command: until it has no more work.
+void toonAf()
+{
+    for (int i = 0; i < 20; ++i) {
+        wxTheApp->Yield(true);
+        wxMilliSleep(5);
+        wxTheApp->Yield(true);
+    }
 }
 
 void klikSelekteerAlles(KlavermolVenster& v, bool aan)
@@ -110,6 +140,7 @@ int meetToevoegen(KlavermolVenster& v, const std::string& map)
     print("walk_vs_find", walk / find);
     print("add_s", add);
     std::printf("peak_mb=%ld\n", piekMb());
+    print("show_s", meet([] { toonAf(); }));
     print("selectall_s", meet([&] { klikSelekteerAlles(v, true); }));
     print("deselectall_s", meet([&] { klikSelekteerAlles(v, false); }));
     print("toggle_s", meet([&] {
@@ -124,7 +155,7 @@ int meetToevoegen(KlavermolVenster& v, const std::string& map)
     return 0;
 }
 
-int meetUitvoeren(KlavermolVenster& v, const std::string& map, const std::string& cli)
+int meetUitvoeren(KlavermolVenster& v, const std::string& map, const std::string& cli, const wxString& thuis)
 {
     voegToe(v, map);
     v.uitvoerSoortKeuze->SetSelection(kern::SoortProjekt);
@@ -133,12 +164,19 @@ int meetUitvoeren(KlavermolVenster& v, const std::string& map, const std::string
         wxCommandEvent klik(wxEVT_BUTTON, wxID_APPLY);
         v.ProcessWindowEvent(klik);
     });
+    const wxString doel = thuis + "/CMakeLists.txt";
+    const double bewaren = meet([&] {
+        wxCommandEvent klik(wxEVT_BUTTON, wxID_SAVE);
+        wxTEST_DIALOG(v.ProcessWindowEvent(klik), BewaarIn(doel));
+    });
     const double find = meetOpdracht(vindOpdracht(map));
     const double cliTijd =
         meetOpdracht("'" + cli + "' -o '" + map + "' -m recursive --c --cpp --h --asm '" + map + "' > /dev/null");
     std::printf("files=%u\n", v.bestandSelektieLijst->GetCount());
     print("execute_s", uitvoeren);
     std::printf("text_bytes=%zu\n", v.uitvoerTekst->GetValue().utf8_str().length());
+    print("save_s", bewaren);
+    std::printf("saved_bytes=%llu\n", static_cast<unsigned long long>(wxFileName::GetSize(doel).GetValue()));
     print("cli_s", cliTijd);
     print("find_s", find);
     print("cli_vs_find", cliTijd / find);
@@ -173,7 +211,7 @@ int main(int argc, char** argv)
     }
     wxLog::EnableLogging(false); // duplicate messages would otherwise pile up
     KlavermolVenster& venster = *wxGetApp().geefVenster();
-    const int uitslag = soort == "add" ? meetToevoegen(venster, map) : meetUitvoeren(venster, map, cli);
+    const int uitslag = soort == "add" ? meetToevoegen(venster, map) : meetUitvoeren(venster, map, cli, thuis);
     wxLog::EnableLogging(true);
     const double sluiten = meet([&] {
         venster.Destroy();

@@ -96,8 +96,8 @@ Delen splits(const wxString& pad)
 {
     const size_t slash = pad.rfind(wxFILE_SEP_PATH);
     const bool eenvoudig = wxFILE_SEP_PATH == '/' && slash != wxString::npos && slash > 0 && pad[0] == '/'
-        && slash + 1 < pad.length() && pad.find("//") == wxString::npos && pad.find("/./") == wxString::npos
-        && pad.find("/../") == wxString::npos;
+        && slash + 1 < pad.length() && pad.find(wxS("//")) == wxString::npos && pad.find(wxS("/./")) == wxString::npos
+        && pad.find(wxS("/../")) == wxString::npos;
     Delen delen;
     if (!eenvoudig) {
         const wxFileName f(pad);
@@ -136,7 +136,7 @@ public:
                          .first;
         if (!volume->second)
             return false;
-        const bool isHeader = delen.extensie == "h";
+        const bool isHeader = delen.extensie == wxS("h");
         if (invoer.soort != SoortInclude && delen.map == invoer.uitvoerDir)
             voegToeInUitvoerMap(delen.naam, isHeader);
         else
@@ -234,8 +234,11 @@ private:
         wxString& regel = werk.groepNamen[groep];
         const size_t tab = regel.rfind('\t');
         const size_t lengte = tab == wxString::npos ? regel.length() : regel.length() - tab;
-        regel += cmakeArgument(wxString(), naam);
-        regel += lengte > 80 ? " \n\t" : " ";
+        if (isGewoon(naam))
+            regel += naam;
+        else
+            regel += cmakeArgument(wxString(), naam);
+        regel += lengte > 80 ? wxS(" \n\t") : wxS(" ");
     }
 
     const GeneratorInvoer& invoer;

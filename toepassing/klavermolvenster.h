@@ -223,6 +223,11 @@ public:
     // What the generators read, taken from the controls.
     kern::GeneratorInvoer geefGeneratorInvoer() const;
 
+    // Takes paths into the "Source Files" list and the selection, checked,
+    // in one batch; a path already there is reported, one no CMake text can
+    // name is counted in `overgeslagen`. Returns how many were added.
+    int voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen);
+
 private:
     void Init();
     void herstelToestand();
@@ -231,8 +236,5 @@ private:
     void wisselSchakelaar(StandSchakelaar& schakelaar);
     wxArrayString kiesBestanden(const wxString& map);
     void toonHuidigeLokatie();
-    // Appends the new paths checked, in one batch; a path no CMake text can
-    // name is counted in `overgeslagen` instead.
-    int voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen);
     void schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&));
 };

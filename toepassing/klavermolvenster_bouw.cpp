@@ -1,5 +1,6 @@
 // Building the main window: menus, the two columns of controls, the status bar.
 #include "toepassing/klavermolvenster.h"
+#include "toepassing/lijstblok.h"
 
 #include <wx/bmpbuttn.h>
 #include <wx/button.h>
@@ -209,6 +210,7 @@ void KlavermolVenster::CreateControls()
     links->Add(selektieBoek, 1, wxGROW | wxALL, 5);
     bestandSelektieLijst = maakLijstPagina(selektieBoek, BronPaneelID, BestandSelektieLijstID,
                                            wxLB_MULTIPLE | wxLB_HSCROLL, _("Source Files"));
+    maakRijenVast(bestandSelektieLijst);
     biebLijst = maakLijstPagina(selektieBoek, BiebPaneelID, BiebLijstID, wxLB_MULTIPLE | wxBORDER_THEME,
                                 _("Libraries"));
     includeLijst = maakLijstPagina(selektieBoek, IncludePaneelID, IncludeLijstID,

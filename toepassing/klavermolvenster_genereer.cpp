@@ -14,12 +14,15 @@
 kern::GeneratorInvoer KlavermolVenster::geefGeneratorInvoer() const
 {
     kern::GeneratorInvoer invoer;
-    const wxArrayString bronnen = bestandSelektieLijst->GetStrings();
+    // The texts come from the selection model, which holds the list's
+    // entries in the list's order; only the check marks are asked of the
+    // control.
+    wxASSERT(bronSelektie.aantal() == bestandSelektieLijst->GetCount());
     wxArrayInt aangevinkt;
     bestandSelektieLijst->GetCheckedItems(aangevinkt);
     invoer.bronnen.reserve(aangevinkt.size());
     for (int i : aangevinkt)
-        invoer.bronnen.Add(bronnen[static_cast<size_t>(i)]);
+        invoer.bronnen.Add(bronSelektie.geef(static_cast<size_t>(i)));
 
     for (size_t m = 0; m < subDirPaden.size(); ++m)
         invoer.biebs.push_back({subDirPaden[m], subDirBiebNamen[m], biebLijst->IsChecked(static_cast<unsigned>(m))});

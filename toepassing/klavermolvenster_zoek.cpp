@@ -1,6 +1,7 @@
 // The file-type switches, the filter text and wildcard, the probe of the
 // search location and the Add command.
 #include "toepassing/klavermolvenster.h"
+#include "toepassing/lijstblok.h"
 
 #include "desktopAppBasis.h"
 #include "kern/bronzoeker.h"
@@ -181,12 +182,7 @@ int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t& ov
         return 0;
 
     // One batch for the control, however many files.
-    const unsigned int eerste = bestandSelektieLijst->GetCount();
-    bestandSelektieLijst->Freeze();
-    bestandSelektieLijst->Append(nieuw);
-    for (unsigned int i = eerste; i < bestandSelektieLijst->GetCount(); ++i)
-        bestandSelektieLijst->Check(i);
-    bestandSelektieLijst->Thaw();
+    voegToeAanLijst(bestandSelektieLijst, nieuw);
     return static_cast<int>(nieuw.size());
 }
 

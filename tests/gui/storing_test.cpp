@@ -6,12 +6,25 @@
 #include <wx/choice.h>
 #include <wx/filepicker.h>
 
+#include <gtk/gtk.h>
+
 #include <filesystem>
+#include <functional>
 #include <set>
 #include <fstream>
 
 class Storing : public ProgrammaTest
 {
+protected:
+    // GTK lays a view out on its own clock: waits for that, two seconds at most.
+    bool wachtTot(const std::function<bool()>& klaar)
+    {
+        for (int i = 0; i < 100 && !klaar(); ++i) {
+            verwerk();
+            wxMilliSleep(20);
+        }
+        return klaar();
+    }
 };
 
 TEST_F(Storing, AddLeavesOutNamesCMakeCannotNameAndSaysHowManyOnce)
@@ -43,4 +56,28 @@ TEST_F(Storing, AddLeavesOutNamesCMakeCannotNameAndSaysHowManyOnce)
     ASSERT_EQ(waarschuwingen.size(), 1u);
     EXPECT_EQ(waarschuwingen[0].tekst, "5 names were left out: a CMake file cannot name a path that is not valid "
                                        "UTF-8 or that contains \";\" or \"\\\".");
+}
+
+TEST_F(Storing, TheLongestEntryStaysReachableInTheSourceList)
+{
+    start();
+    KlavermolVenster& v = venster();
+    const wxString lang = "/" + wxString('m', 150) + "/" + wxString('n', 150) + ".c";
+    std::size_t overgeslagen = 0;
+    wxArrayString paden;
+    for (const wxString& pad : {wxString("/a.c"), lang, wxString("/b/c.c")})
+        paden.Add(pad);
+    v.voegBronnenToe(paden, overgeslagen);
+    v.SetSize(800, 600);
+    GtkAdjustment* schuif = gtk_scrollable_get_hadjustment(GTK_SCROLLABLE(v.bestandSelektieLijst->m_treeview));
+    const int breedte = v.bestandSelektieLijst->GetTextExtent(lang).x;
+    EXPECT_TRUE(wachtTot([&] { return gtk_adjustment_get_upper(schuif) >= breedte; }))
+        << gtk_adjustment_get_upper(schuif) << " < " << breedte;
+
+    wxCommandEvent wis(wxEVT_BUTTON, wxID_CLEAR);
+    v.ProcessWindowEvent(wis);
+    EXPECT_EQ(v.bestandSelektieLijst->GetCount(), 0u);
+    // nothing is left to scroll to
+    EXPECT_TRUE(wachtTot([&] { return gtk_adjustment_get_upper(schuif) < breedte / 2; }))
+        << gtk_adjustment_get_upper(schuif);
 }

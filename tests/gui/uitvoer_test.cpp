@@ -82,6 +82,12 @@ protected:
         venster().ProcessWindowEvent(e);
     }
 
+    void voegBronnenToe(const std::vector<wxString>& paden)
+    {
+        std::size_t overgeslagen = 0;
+        venster().voegBronnenToe(wxArrayString(paden.size(), paden.data()), overgeslagen);
+    }
+
     void typNaam(const wxString& naam) { venster().projektLibIncludeNaam->SetValue(naam); }
 
     void klik(int id)
@@ -306,8 +312,7 @@ TEST_F(Uitvoer, ExecuteTwiceGivesTheTextOnceFromTheCheckedEntries)
     start();
     KlavermolVenster& v = venster();
     v.outputDirPicker->SetPath("/p");
-    for (const char* pad : {"/p/main.c", "/p/src/a.c", "/p/src/weg.c", "/p/src/b.c", "/p/inc/a.h"})
-        v.bestandSelektieLijst->Check(static_cast<unsigned>(v.bestandSelektieLijst->Append(pad)));
+    voegBronnenToe({"/p/main.c", "/p/src/a.c", "/p/src/weg.c", "/p/src/b.c", "/p/inc/a.h"});
     v.bestandSelektieLijst->Check(2, false);
     typNaam("Demo");
     klik(wxID_APPLY);
@@ -345,7 +350,7 @@ TEST_F(Uitvoer, LibrariesAndIncludeFilesReachTheProject)
     kiesBestand(v.vindCMakeIncludeDir, VindCMakeIncludeDirID, maakBestand(maakMap("cmake") + "/extra.cmake"));
     klik(VoegToeCMakeIncludeID);
     v.outputDirPicker->SetPath(thuis);
-    v.bestandSelektieLijst->Check(static_cast<unsigned>(v.bestandSelektieLijst->Append(thuis + "/src/a.c")));
+    voegBronnenToe({thuis + "/src/a.c"});
     klik(wxID_APPLY);
     const wxString tekst = v.uitvoerTekst->GetValue();
     EXPECT_NE(tekst.Find("set(Lib0Path ${PROJECT_SOURCE_DIR}/lib)\nadd_subdirectory(${Lib0Path})\n"), wxNOT_FOUND);

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -65,14 +67,20 @@ inline int geefToolkitVlaggen(int modus)
     return modus == 1 ? (wxDIR_FILES | wxDIR_NO_FOLLOW) : (wxDIR_FILES | wxDIR_DIRS);
 }
 
-// What the toolkit collects, pattern by pattern.
+// What the toolkit collects, pattern by pattern, less the paths that do
+// not name an entry on disk: those hold a name that is not UTF-8, which the
+// toolkit reads as something else and the walk leaves out on purpose.
 inline wxArrayString verzamelPerPatroon(const wxString& map, const std::vector<wxString>& patronen,
                                         int vlaggen)
 {
-    wxArrayString alles;
+    wxArrayString alles, echt;
     for (const wxString& p : patronen)
         wxDir::GetAllFiles(map, &alles, p, vlaggen);
-    return alles;
+    struct stat st;
+    for (const wxString& pad : alles)
+        if (::lstat(pad.fn_str(), &st) == 0)
+            echt.Add(pad);
+    return echt;
 }
 
 inline std::vector<wxString> gesorteerd(const wxArrayString& a)

@@ -8,7 +8,8 @@ namespace kern {
 // platform's native line ends. The text goes to a temporary file in the same
 // directory, which replaces `pad` only when all of it was written; on any
 // failure (directory not writable, disk full, an existing file that is not
-// writable) `pad` is left as it was and false is returned.
+// writable or is marked read-only) `pad` is left as it was and false is
+// returned.
 bool schrijfTekstBestand(const wxString& pad, const wxString& tekst);
 
 } // namespace kern

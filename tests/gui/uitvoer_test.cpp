@@ -264,10 +264,14 @@ TEST_F(Uitvoer, AnUnwritableTargetShowsTheErrorAndKeepsTheText)
     start();
     KlavermolVenster& v = venster();
     v.uitvoerTekst->ChangeValue("tekst");
-    const wxString pad = thuis + "/bestaat/niet/CMakeLists.txt";
-    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", v.outputDirPicker->GetPath(),
-                                             "CMakeLists.txt"));
-    EXPECT_TRUE(heeftLog(wxLOG_Error, "Failed to open output file " + pad + " for writing to."));
+    const wxString map = v.outputDirPicker->GetPath();
+    const wxString alleen = maakBestand(map + "/alleen.txt");
+    wxChmod(alleen, 0444);
+    for (const wxString& pad : {thuis + "/bestaat/niet/CMakeLists.txt", alleen}) {
+        wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
+        EXPECT_TRUE(heeftLog(wxLOG_Error, "Failed to open output file " + pad + " for writing to.")) << pad;
+    }
+    EXPECT_EQ(leesBytes(alleen), "\n");
     EXPECT_EQ(v.uitvoerTekst->GetValue(), "tekst");
 }
 

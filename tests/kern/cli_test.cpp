@@ -45,6 +45,12 @@ protected:
         std::ofstream(vol.ToStdString()) << inhoud;
     }
 
+    std::string leesBestand(const std::string& pad) const
+    {
+        std::ifstream f((map + "/" + pad).ToStdString());
+        return std::string(std::istreambuf_iterator<char>(f), {});
+    }
+
     Uitslag voerUit(const std::string& argumenten, const std::string& omgeving = "")
     {
         const std::string foutBestand = (map + "/stderr.txt").ToStdString();
@@ -124,24 +130,37 @@ TEST_F(Cli, DuplicatesAreReportedAndTheRunGoesOn)
     EXPECT_NE(u.uit.find("target_link_libraries(${ProjectName} x )"), std::string::npos);
 }
 
-TEST_F(Cli, WriteSavesTheFileAndIncludeTakesTheNameDotCmake)
+TEST_F(Cli, WriteReplacesAnOldFileWholeAndIncludeTakesTheNameDotCmake)
 {
+    maak("p/CMakeLists.txt", "oud\n");
     Uitslag u = voerUit("-w -o p --c p");
     ASSERT_EQ(u.code, 0) << u.fout;
     EXPECT_TRUE(u.uit.empty());
-    EXPECT_TRUE(wxFileName::FileExists(map + "/p/CMakeLists.txt"));
+    kern::GeneratorInvoer in;
+    in.uitvoerDir = map + "/p";
+    in.bronnen.Add(map + "/p/main.c");
+    EXPECT_EQ(leesBestand("p/CMakeLists.txt"), verwacht(in));
+    wxArrayString bestanden;
+    wxDir::GetAllFiles(map + "/p", &bestanden, "*", wxDIR_FILES | wxDIR_HIDDEN);
+    EXPECT_EQ(bestanden.size(), 3u); // main.c, .verborgen.c and the new file
+
     u = voerUit("-w -k include -n Common -o p --h p/inc");
     ASSERT_EQ(u.code, 0) << u.fout;
-    std::ifstream f((map + "/p/Common.cmake").ToStdString());
-    const std::string inhoud((std::istreambuf_iterator<char>(f)), {});
-    EXPECT_EQ(inhoud.rfind("## Klavermol generated Common include file\n", 0), 0u);
+    EXPECT_EQ(leesBestand("p/Common.cmake").rfind("## Klavermol generated Common include file\n", 0), 0u);
 }
 
-TEST_F(Cli, TemplatesComeFromTheStoreOrASettingsFile)
+TEST_F(Cli, TemplatesComeFromTheStoreOrASettingsFileUnexpanded)
 {
-    maak(".Klavermol", "[Configuratie]\nProjektKommando=add_executable(${ProjectName} ${SRCS})\n");
-    Uitslag u = voerUit("-o p");
+    maak(".Klavermol", "[Configuratie]\nProjektKommando=add_executable(${ProjectName} ${SRCS})\n"
+                       "KopieerrechtMededeling=## $HOME ${SRCS} %PATH%\n");
+    Uitslag u = voerUit("-o p", "SRCS=omgeving SOURCE_DATE_EPOCH=86399");
     EXPECT_NE(u.uit.find("\nadd_executable(${ProjectName} ${SRCS})\ntarget_link_libraries"), std::string::npos);
+    EXPECT_EQ(u.uit.rfind("## Klavermol generated CMakelists Project file\n"
+                          "## File generated on : 1970-01-01 23:59:59.\n"
+                          "## $HOME ${SRCS} %PATH%\n",
+                          0),
+              0u)
+        << u.uit;
     maak("andere.ini", "[Configuratie]\nProjektKommando=## from elsewhere\n");
     u = voerUit("-o p --settings andere.ini", "SRCS=omgeving");
     EXPECT_NE(u.uit.find("\n## from elsewhere\ntarget_link_libraries"), std::string::npos);
@@ -181,15 +200,25 @@ TEST_F(Cli, ErrorsGiveAMessageAndANonZeroExitAndNoFile)
     EXPECT_FALSE(wxFileName::FileExists(map + "/p/CMakeLists.txt"));
 }
 
-TEST_F(Cli, AnUnwritableTargetKeepsTheOldFile)
+TEST_F(Cli, AnUnwritableTargetOrAFullDiskKeepsTheOldFile)
 {
+    const std::string fout = "Failed to open output file " + (map + "/p/CMakeLists.txt").ToStdString() + " for writing to.";
     wxFileName::Mkdir(map + "/p/CMakeLists.txt"); // a directory stands where the file should go
-    const Uitslag u = voerUit("-w -o p --c p");
+    Uitslag u = voerUit("-w -o p --c p");
     EXPECT_EQ(u.code, 1);
-    EXPECT_NE(u.fout.find("Failed to open output file " + (map + "/p/CMakeLists.txt").ToStdString() +
-                          " for writing to."),
-              std::string::npos);
+    EXPECT_NE(u.fout.find(fout), std::string::npos) << u.fout;
     EXPECT_TRUE(wxFileName::DirExists(map + "/p/CMakeLists.txt"));
+
+    // the file-size limit makes the write fail as a full disk does
+    wxFileName::Rmdir(map + "/p/CMakeLists.txt");
+    maak("p/CMakeLists.txt", "oud");
+    u = voerUit("-w -o p --c p", "sh -c 'trap \"\" XFSZ; ulimit -f 1; exec \"$0\" \"$@\"'");
+    EXPECT_EQ(u.code, 1);
+    EXPECT_NE(u.fout.find(fout), std::string::npos) << u.fout;
+    EXPECT_EQ(leesBestand("p/CMakeLists.txt"), "oud");
+    wxArrayString bestanden;
+    wxDir::GetAllFiles(map + "/p", &bestanden, "CMakeLists.txt*", wxDIR_FILES | wxDIR_HIDDEN);
+    EXPECT_EQ(bestanden.size(), 1u);
 }
 
 TEST_F(Cli, HelpGoesToStdoutAndDashDashHIsTheHeaderSwitch)
@@ -232,35 +261,6 @@ TEST_F(Cli, UncheckReachesAllThreeListsAndKeepsTheNumbers)
     EXPECT_EQ(u.uit, verwacht(in));
     EXPECT_NE(u.uit.find("set(Lib1Path ${PROJECT_SOURCE_DIR}/../lib2)\n"), std::string::npos);
     EXPECT_NE(u.uit.find("target_link_libraries(${ProjectName} twee )"), std::string::npos);
-}
-
-TEST_F(Cli, TheStoreNeverExpandsVariablesAndTheDateFollowsSourceDateEpoch)
-{
-    maak(".Klavermol", "[Configuratie]\nKopieerrechtMededeling=## $HOME ${SRCS} %PATH%\n");
-    const Uitslag u = voerUit("-o p", "SRCS=omgeving SOURCE_DATE_EPOCH=86399");
-    ASSERT_EQ(u.code, 0) << u.fout;
-    EXPECT_EQ(u.uit.rfind("## Klavermol generated CMakelists Project file\n"
-                          "## File generated on : 1970-01-01 23:59:59.\n"
-                          "## $HOME ${SRCS} %PATH%\n",
-                          0),
-              0u)
-        << u.uit;
-}
-
-TEST_F(Cli, WriteReplacesAnOldFileWholeAndLeavesNothingBeside)
-{
-    maak("p/CMakeLists.txt", "oud\n");
-    const Uitslag u = voerUit("-w -o p --c p");
-    ASSERT_EQ(u.code, 0) << u.fout;
-    std::ifstream f((map + "/p/CMakeLists.txt").ToStdString());
-    const std::string inhoud((std::istreambuf_iterator<char>(f)), {});
-    kern::GeneratorInvoer in;
-    in.uitvoerDir = map + "/p";
-    in.bronnen.Add(map + "/p/main.c");
-    EXPECT_EQ(inhoud, verwacht(in));
-    wxArrayString bestanden;
-    wxDir::GetAllFiles(map + "/p", &bestanden, "*", wxDIR_FILES | wxDIR_HIDDEN);
-    EXPECT_EQ(bestanden.size(), 3u); // main.c, .verborgen.c and the new file
 }
 
 TEST_F(Cli, AnUnreadableDirectoryIsAnError)

@@ -1,6 +1,7 @@
 // The output side of the main window: kind and names, the sub-directory and
 // include lists, saving.
 #include "programma.h"
+#include "storing.h"
 
 #include <wx/checklst.h>
 #include <wx/choice.h>
@@ -14,9 +15,7 @@
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
-#include <csignal>
 #include <fstream>
-#include <sys/resource.h>
 #include <iterator>
 
 namespace {
@@ -134,12 +133,8 @@ TEST_F(Uitvoer, TheFileNameFollowsTheKindAndTheName)
     EXPECT_EQ(v.naamKader->GetLabel(), "Library name");
     typNaam("mylib"); // not the include kind: the file name stays
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "CMakeLists.txt");
-}
 
-TEST_F(Uitvoer, UseOutputDirectoryName)
-{
-    start();
-    KlavermolVenster& v = venster();
+    // "use the output directory's name"
     v.outputDirPicker->SetPath(maakMap("work/src/engine"));
     kiesSoort(2);
     klik(GebruikSourceDirNaamID);
@@ -184,20 +179,13 @@ TEST_F(Uitvoer, AddingCMakeSubDirectories)
     kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(derde + "/CMakeLists.txt"));
     wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam("x", wxID_CANCEL));
     EXPECT_EQ(v.biebLijst->GetCount(), 2u);
-}
 
-TEST_F(Uitvoer, ASubDirectoryFileWithAnotherNameIsRefused)
-{
-    start();
-    KlavermolVenster& v = venster();
-    const wxString lib = maakMap("lib");
-    maakBestand(lib + "/CMakeLists.txt");
-    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(lib + "/build.txt"));
-    EXPECT_TRUE(v.subDirHeeftCMakeLists); // the directory holds one
+    // a file of another name is refused even where the directory holds one
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(derde + "/build.txt"));
+    EXPECT_TRUE(v.subDirHeeftCMakeLists);
     klik(VoegToeCMakeSubDirID);
     EXPECT_TRUE(heeftLog(wxLOG_Error, "The selected dir does not contain a CMakeLists.txt file."));
-    EXPECT_EQ(v.biebLijst->GetCount(), 0u);
-
+    EXPECT_EQ(v.biebLijst->GetCount(), 2u);
     kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(maakMap("leeg") + "/x.txt"));
     EXPECT_FALSE(v.subDirHeeftCMakeLists);
 }
@@ -228,25 +216,17 @@ TEST_F(Uitvoer, AddingIncludeFiles)
     EXPECT_FALSE(v.FindWindow(VoegToeCMakeIncludeID)->IsEnabled());
 }
 
-TEST_F(Uitvoer, SaveWritesUtf8WithoutByteOrderMark)
+TEST_F(Uitvoer, SaveWritesUtf8AndItsWildcardFollowsTheProjectTypeNotTheKind)
 {
     start();
     KlavermolVenster& v = venster();
     const wxString map = maakMap("uit");
     v.outputDirPicker->SetPath(map);
     v.uitvoerTekst->ChangeValue(wxString::FromUTF8("set(Naam Caf\xC3\xA9)\n"));
-    const wxString pad = map + "/CMakeLists.txt";
-    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
-    EXPECT_EQ(leesBytes(pad), "set(Naam Caf\xC3\xA9)\n");
+    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(map + "/CMakeLists.txt", "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
+    EXPECT_EQ(leesBytes(map + "/CMakeLists.txt"), "set(Naam Caf\xC3\xA9)\n"); // no byte-order mark
     EXPECT_FALSE(v.uitvoerTekst->IsEmpty());
-}
 
-TEST_F(Uitvoer, TheSaveWildcardFollowsTheProjectTypeNotTheKind)
-{
-    start();
-    KlavermolVenster& v = venster();
-    const wxString map = maakMap("uit");
-    v.outputDirPicker->SetPath(map);
     v.uitvoerTekst->ChangeValue("x");
     typNaam("Common");
     kiesSoort(2);
@@ -259,55 +239,37 @@ TEST_F(Uitvoer, TheSaveWildcardFollowsTheProjectTypeNotTheKind)
     EXPECT_EQ(leesBytes(map + "/Common.cmake"), "x");
 }
 
-TEST_F(Uitvoer, AnUnwritableTargetShowsTheErrorAndKeepsTheText)
+TEST_F(Uitvoer, SaveFaultsShowTheErrorAndKeepTheOldFilesAndTheText)
 {
     start();
     KlavermolVenster& v = venster();
-    v.uitvoerTekst->ChangeValue("tekst");
+    const wxString tekst('x', 100000);
+    v.uitvoerTekst->ChangeValue(tekst);
     const wxString map = v.outputDirPicker->GetPath();
     const wxString alleen = maakBestand(map + "/alleen.txt");
     wxChmod(alleen, 0444);
-    for (const wxString& pad : {thuis + "/bestaat/niet/CMakeLists.txt", alleen}) {
+    const wxString doel = map + "/CMakeLists.txt";
+    std::ofstream(doel.ToStdString()) << "oud";
+    const auto bewaar = [&](const wxString& pad) {
         wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
         EXPECT_TRUE(heeftLog(wxLOG_Error, "Failed to open output file " + pad + " for writing to.")) << pad;
+    };
+    bewaar(thuis + "/bestaat/niet/CMakeLists.txt");
+    bewaar(alleen);
+    {
+        VolleSchijf vol;
+        bewaar(doel);
     }
     EXPECT_EQ(leesBytes(alleen), "\n");
-    EXPECT_EQ(v.uitvoerTekst->GetValue(), "tekst");
-}
-
-TEST_F(Uitvoer, AFullDiskShowsTheErrorAndKeepsTheOldFileAndTheText)
-{
-    start();
-    KlavermolVenster& v = venster();
-    const wxString map = v.outputDirPicker->GetPath();
-    const wxString pad = map + "/CMakeLists.txt";
-    std::ofstream(pad.ToStdString()) << "oud";
-    const wxString tekst('x', 100000);
-    v.uitvoerTekst->ChangeValue(tekst);
-    // The file-size limit makes the write fail as a full disk does.
-    rlimit oud{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &oud), 0);
-    const auto oudeAfhandeling = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit klein = oud;
-    klein.rlim_cur = 4096;
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &klein), 0);
-    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
-    setrlimit(RLIMIT_FSIZE, &oud);
-    std::signal(SIGXFSZ, oudeAfhandeling);
-    EXPECT_TRUE(heeftLog(wxLOG_Error, "Failed to open output file " + pad + " for writing to."));
-    EXPECT_EQ(leesBytes(pad), "oud");
-    EXPECT_EQ(v.uitvoerTekst->GetValue(), tekst);
+    EXPECT_EQ(leesBytes(doel), "oud");
     wxArrayString bestanden;
     wxDir::GetAllFiles(map, &bestanden, "CMakeLists.txt*", wxDIR_FILES | wxDIR_HIDDEN);
     EXPECT_EQ(bestanden.size(), 1u);
-}
+    EXPECT_EQ(v.uitvoerTekst->GetValue(), tekst);
 
-TEST_F(Uitvoer, CancellingTheSaveDialogTouchesNothing)
-{
-    start();
-    venster().uitvoerTekst->ChangeValue("tekst");
+    // cancelling the dialog touches nothing
     wxTEST_DIALOG(klik(wxID_SAVE), wxExpectModal<wxFileDialog>("", wxID_CANCEL));
-    EXPECT_FALSE(wxFileName::FileExists(venster().outputDirPicker->GetPath() + "/CMakeLists.txt"));
+    EXPECT_EQ(leesBytes(doel), "oud");
 }
 
 TEST_F(Uitvoer, ExecuteTwiceGivesTheTextOnceFromTheCheckedEntries)

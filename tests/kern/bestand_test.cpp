@@ -1,16 +1,14 @@
 // Writing a generated file whole or not at all.
 #include "kern/bestand.h"
 
-#include "niemand_test.h"
+#include "storing.h"
 
 #include <gtest/gtest.h>
 #include <wx/dir.h>
 #include <wx/filename.h>
 
-#include <csignal>
 #include <fstream>
 #include <iterator>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -65,16 +63,11 @@ TEST_F(Bestand, ReplacesTheOldFileWholeInUtf8)
 TEST_F(Bestand, AFullDiskLeavesTheOldFileAndNoTemporaryFile)
 {
     zetOud();
-    // The file-size limit makes the write fail as a full disk does.
-    rlimit oud{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &oud), 0);
-    const auto oudeAfhandeling = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit klein = oud;
-    klein.rlim_cur = 4096;
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &klein), 0);
-    const bool geschreven = kern::schrijfTekstBestand(doel, wxString('x', 100000));
-    ::setrlimit(RLIMIT_FSIZE, &oud);
-    std::signal(SIGXFSZ, oudeAfhandeling);
+    bool geschreven = true;
+    {
+        VolleSchijf vol;
+        geschreven = kern::schrijfTekstBestand(doel, wxString('x', 100000));
+    }
     EXPECT_FALSE(geschreven);
     EXPECT_EQ(lees(), "oud");
     EXPECT_EQ(inhoud().size(), 1u);

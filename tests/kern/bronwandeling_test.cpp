@@ -2,7 +2,7 @@
 #include "kern/bronzoeker.h"
 
 #include "bronboom_test.h"
-#include "niemand_test.h"
+#include "storing.h"
 
 #include <wx/filefn.h>
 

@@ -1,7 +1,7 @@
 // The command-line front end, run as a separate program.
 #include "kern/generator.h"
 
-#include "niemand_test.h"
+#include "storing.h"
 
 #include <gtest/gtest.h>
 #include <wx/dir.h>

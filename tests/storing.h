@@ -1,15 +1,44 @@
 #pragma once
+// Staging file-system faults in tests.
+#include <grp.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <functional>
+#include <string>
+
+// While it lives, a file may not grow past a few kilobytes: a write beyond
+// fails as it does on a full disk (the signal the kernel would send is
+// ignored meanwhile).
+class VolleSchijf
+{
+public:
+    VolleSchijf() : oudeAfhandeling(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &oud);
+        rlimit klein = oud;
+        klein.rlim_cur = 4096;
+        ::setrlimit(RLIMIT_FSIZE, &klein);
+    }
+    ~VolleSchijf()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &oud);
+        std::signal(SIGXFSZ, oudeAfhandeling);
+    }
+    VolleSchijf(const VolleSchijf&) = delete;
+    VolleSchijf& operator=(const VolleSchijf&) = delete;
+
+private:
+    rlimit oud{};
+    void (*oudeAfhandeling)(int);
+};
+
 // Permission faults cannot be staged for root, who reads and writes
 // everything: as root, `alsNiemand` runs the work in a child process under
 // the unprivileged user "nobody" and hands back what it returned. Anything
 // the work touches must be reachable for that user.
-#include <grp.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <functional>
-#include <string>
-
 inline std::string alsNiemand(const std::function<std::string()>& werk)
 {
     if (::geteuid() != 0)

@@ -38,6 +38,8 @@ int geefNatuurlijkeBreedte(wxCheckListBox* lijst, GtkTreeViewColumn* kolom)
 const int tekstMarge = 16;
 // The width of a text column without entries; it expands to the view's.
 const int geenBreedte = 1;
+// How many of the longest texts in characters are measured in pixels.
+const size_t proefGrootte = 32;
 
 } // namespace
 #endif
@@ -96,7 +98,7 @@ void voegToeAanLijst(wxCheckListBox* lijst, const wxArrayString& nieuw)
     std::vector<const wxString*> langste;
     for (const wxString& tekst : nieuw)
         langste.push_back(&tekst);
-    const size_t proef = std::min<size_t>(langste.size(), 32);
+    const size_t proef = std::min(langste.size(), proefGrootte);
     std::partial_sort(langste.begin(), langste.begin() + static_cast<std::ptrdiff_t>(proef), langste.end(),
                       [](const wxString* a, const wxString* b) { return a->length() > b->length(); });
     int breedte = 0;

@@ -1,6 +1,6 @@
 #pragma once
-// A throw-away directory tree for the source-search tests, and the
-// toolkit's own answers to compare against.
+// A throw-away directory tree for the tests that need files on disk, and
+// the toolkit's own answers to compare the source search against.
 #include "kern/bronzoeker.h"
 
 #include <wx/arrstr.h>
@@ -11,7 +11,6 @@
 
 #include <sys/stat.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -33,8 +32,6 @@ public:
         std::error_code fout;
         std::filesystem::remove_all(wortel_, fout);
     }
-    TijdelijkeBoom(const TijdelijkeBoom&) = delete;
-    TijdelijkeBoom& operator=(const TijdelijkeBoom&) = delete;
 
     // The root, or a path below it, as the program would hand it over.
     wxString map(const std::string& rel = {}) const
@@ -44,16 +41,15 @@ public:
     std::string pad(const std::string& rel) const { return wortel_ + "/" + rel; }
 
     void maakMap(const std::string& rel) const { std::filesystem::create_directories(pad(rel)); }
-    void maakBestand(const std::string& rel) const
+    void maakBestand(const std::string& rel, const std::string& inhoud = "x") const
     {
         const auto p = std::filesystem::path(pad(rel));
         std::filesystem::create_directories(p.parent_path());
-        std::ofstream(p) << "x";
+        std::ofstream(p) << inhoud;
     }
     // A symbolic link at `rel` whose text is `doel` (relative or absolute).
     void maakLink(const std::string& doel, const std::string& rel) const
     {
-        std::filesystem::create_directories(std::filesystem::path(pad(rel)).parent_path());
         std::filesystem::create_symlink(doel, pad(rel));
     }
 
@@ -83,12 +79,6 @@ inline wxArrayString verzamelPerPatroon(const wxString& map, const std::vector<w
     return echt;
 }
 
-inline std::vector<wxString> gesorteerd(const wxArrayString& a)
-{
-    std::vector<wxString> v(a.begin(), a.end());
-    std::sort(v.begin(), v.end());
-    return v;
-}
 
 // A tree of random shape: names in mixed case, extensions that differ only
 // in case, hidden files and directories, links to files, broken links,
@@ -119,9 +109,8 @@ inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
         return (kans(8) ? "." : "") + naam + std::to_string(i);
     };
 
-    std::vector<std::string> mappen{""};
+    std::vector<std::string> mappen{"", "d0"};
     boom.maakMap("d0");
-    mappen.push_back("d0");
     for (int i = 1; i < 14; ++i) {
         const std::string ouder = mappen[rnd() % mappen.size()];
         const std::string map = (ouder.empty() ? "" : ouder + "/") + geefNaam(i);
@@ -131,9 +120,8 @@ inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
     const auto in = [](const std::string& map) { return map.empty() ? map : map + "/"; };
     std::vector<std::string> bestanden;
     for (int i = 0; i < 45; ++i) {
-        const std::string b = in(mappen[rnd() % mappen.size()]) + geefNaam(i) + geefExt();
-        boom.maakBestand(b);
-        bestanden.push_back(b);
+        bestanden.push_back(in(mappen[rnd() % mappen.size()]) + geefNaam(i) + geefExt());
+        boom.maakBestand(bestanden.back());
     }
     for (int i = 0; i < 6; ++i)
         boom.maakLink(boom.pad(bestanden[rnd() % bestanden.size()]),

@@ -6,58 +6,44 @@
 
 namespace {
 
-wxFileName map(const char* pad)
+// The entries and the index, as "/A/ /B/ @1".
+wxString toon(const GeschiedenisLijst<wxFileName>& lijst)
 {
-    return wxFileName::DirName(pad);
-}
-
-std::vector<wxString> paden(const GeschiedenisLijst<wxFileName>& lijst)
-{
-    std::vector<wxString> uit;
+    wxString uit;
     for (const wxFileName& f : lijst.geefVoorwerpen())
-        uit.push_back(f.GetFullPath());
-    return uit;
+        uit << f.GetFullPath() << " ";
+    return uit << "@" << lijst.geefIndex();
 }
 
 } // namespace
 
 TEST(GeschiedenisLijst, WhereANewLocationGoes)
 {
-    GeschiedenisLijst<wxFileName> lijst;
-    lijst.voegToe(map("/A"));
-    EXPECT_EQ(lijst.geefIndex(), 1u); // one past the end
-    lijst.voegToe(map("/B"));
-    lijst.voegToe(map("/C"));
-    EXPECT_EQ(paden(lijst), (std::vector<wxString>{"/A/", "/B/", "/C/"}));
-    EXPECT_EQ(lijst.geefIndex(), 3u);
-
-    // a known location only becomes current
-    lijst.voegToe(map("/B/"));
-    EXPECT_EQ(lijst.geefAantal(), 3u);
-    EXPECT_EQ(lijst.geefIndex(), 1u);
-
-    // inside the list a new one lands before the previous entry, and the
-    // unchanged index then designates that entry
-    lijst.voegToe(map("/D"));
-    EXPECT_EQ(paden(lijst), (std::vector<wxString>{"/D/", "/A/", "/B/", "/C/"}));
-    EXPECT_EQ(lijst.geefIndex(), 1u);
-    EXPECT_EQ(lijst.geefHuidigVoorwerp().GetFullPath(), "/A/");
-
-    // at the last position, or at 0, it is appended
-    lijst.zetIndex(3);
-    lijst.voegToe(map("/E"));
-    lijst.zetIndex(0);
-    lijst.voegToe(map("/F"));
-    EXPECT_EQ(paden(lijst), (std::vector<wxString>{"/D/", "/A/", "/B/", "/C/", "/E/", "/F/"}));
-    EXPECT_EQ(lijst.geefIndex(), 1u);
-}
-
-TEST(GeschiedenisLijst, TheCurrentEntryIsBoundsChecked)
-{
+    const struct
+    {
+        int index; // set before the location is added, or -1
+        const char* map;
+        const char* lijst;
+    } stappen[] = {
+        {-1, "/A", "/A/ @1"}, // appended, the index one past the end
+        {-1, "/B", "/A/ /B/ @2"},
+        {-1, "/C", "/A/ /B/ /C/ @3"},
+        {-1, "/B/", "/A/ /B/ /C/ @1"}, // a known location only becomes current
+        // inside the list a new one lands before the previous entry, and the
+        // unchanged index then designates that entry
+        {-1, "/D", "/D/ /A/ /B/ /C/ @1"},
+        {3, "/E", "/D/ /A/ /B/ /C/ /E/ @4"}, // at the last position it is appended
+        {0, "/F", "/D/ /A/ /B/ /C/ /E/ /F/ @1"}, // and at 0
+    };
     GeschiedenisLijst<wxFileName> lijst;
     EXPECT_THROW(lijst.geefHuidigVoorwerp(), std::out_of_range);
-    lijst.voegToe(map("/a"));
-    EXPECT_THROW(lijst.geefHuidigVoorwerp(), std::out_of_range); // index 1 after the append
-    lijst.zetIndex(0);
-    EXPECT_EQ(lijst.geefHuidigVoorwerp().GetFullPath(), "/a/");
+    for (const auto& stap : stappen) {
+        if (stap.index >= 0)
+            lijst.zetIndex(static_cast<std::size_t>(stap.index));
+        lijst.voegToe(wxFileName::DirName(stap.map));
+        EXPECT_EQ(toon(lijst), stap.lijst) << stap.map;
+    }
+    EXPECT_EQ(lijst.geefHuidigVoorwerp().GetFullPath(), "/A/");
+    lijst.zetIndex(lijst.geefAantal());
+    EXPECT_THROW(lijst.geefHuidigVoorwerp(), std::out_of_range);
 }

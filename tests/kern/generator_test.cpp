@@ -39,11 +39,6 @@ Uitkomst geefLijst(const kern::GeneratorInvoer& in, bool heel = false)
     return u;
 }
 
-wxString geefUitvoer(const kern::GeneratorInvoer& in)
-{
-    return geefLijst(in, true).tekst;
-}
-
 wxString samen(const wxArrayString& lijst)
 {
     return wxJoin(lijst, '|', 0);
@@ -170,28 +165,6 @@ TEST(Bronlijst, EighteenHeaderDirectoriesGiveNineThenEightThenOne)
     EXPECT_NE(geefLijst(in).tekst.Find(verwacht), wxNOT_FOUND);
 }
 
-// Include files and sub-directories keep their position numbers, take
-// ${SrcPath<i>} only on an exact match with the (relative) directory list,
-// and start from ${PROJECT_SOURCE_DIR} whatever the project type.
-TEST(Bronlijst, IncludeFilesAndSubDirectories)
-{
-    kern::GeneratorInvoer in = maakInvoer("/p", {"/p/src/a.c"});
-    in.projektType = 1;
-    in.includes = {{"/p/cmake/a.cmake", false}, {"src/eigen.cmake", true}, {"/p/src/abs.cmake", true},
-                   {"/p/b.cmake", true}};
-    in.biebs = {{"src", "een", true}, {"/p/lib1", "x", false}, {"/q/lib2", "twee", true}, {"/p", "drie", true}};
-    EXPECT_EQ(geefLijst(in).tekst,
-              "set(SrcPath0 ${CMAKE_CURRENT_SOURCE_DIR}/src)\n" + geenIncludeMappen +
-                  "set(Include1Path ${SrcPath0})\ninclude(${Include1Path}/eigen.cmake)\n\n"
-                  "set(Include2Path ${PROJECT_SOURCE_DIR}/src)\ninclude(${Include2Path}/abs.cmake)\n\n"
-                  "set(Include3Path ${PROJECT_SOURCE_DIR}/.)\ninclude(${Include3Path}/b.cmake)\n\n"
-                  "set(SRCS0Path ${SrcPath0})\nset(SRCS0 a.c )\n" +
-                  foreachBlok(0) +
-                  "set(Lib0Path ${SrcPath0})\nadd_subdirectory(${Lib0Path})\n\n"
-                  "set(Lib2Path ${PROJECT_SOURCE_DIR}/../q/lib2)\nadd_subdirectory(${Lib2Path})\n\n"
-                  "set(Lib3Path ${PROJECT_SOURCE_DIR}/.)\nadd_subdirectory(${Lib3Path})\n\n");
-}
-
 // The listing ends at the first source on another volume; the generator
 // goes on with its own lines, and the groups made before the end stay in
 // the working lists, so an include file still counts them for its sort line.
@@ -224,31 +197,46 @@ TEST(Bronlijst, ASourceOnAnotherVolumeEndsOnlyTheListing)
 
 TEST(Generator, TheProjectTexts)
 {
+    const wxString begin =
+        "## Klavermol generated CMakelists Project file\n" + kop + "set(ProjectName Demo)\n\n" + minimum;
     kern::GeneratorInvoer in = maakInvoer("/p", {"/p/src/a.c"});
     in.biebs = {{"/p/l", "een", true}, {"/p/m", "twee", false}};
-    EXPECT_EQ(geefUitvoer(in),
-              "## Klavermol generated CMakelists Project file\n" + kop + "set(ProjectName Demo)\n\n" + minimum +
-                  "set(SRCS )\nset(SrcPath0 ${PROJECT_SOURCE_DIR}/src)\n" + geenIncludeMappen +
+    EXPECT_EQ(geefLijst(in, true).tekst,
+              begin + "set(SRCS )\nset(SrcPath0 ${PROJECT_SOURCE_DIR}/src)\n" + geenIncludeMappen +
                   "set(SRCS0Path ${SrcPath0})\nset(SRCS0 a.c )\n" + foreachBlok(0) +
                   "set(Lib0Path ${PROJECT_SOURCE_DIR}/l)\nadd_subdirectory(${Lib0Path})\n\n"
                   "\nlist(SORT SRCS)\n\n" +
                   kern::geefStandaardSjablonen().projektKommando +
                   "\ntarget_link_libraries(${ProjectName} een )\n\n" + projektSlot);
 
-    kern::GeneratorInvoer kruis = maakInvoer("/p");
-    kruis.projektType = 1;
-    EXPECT_EQ(geefUitvoer(kruis),
-              "## Klavermol generated CMakelists Project file\n" + kop + "set(ProjectName Demo)\n\n" + minimum +
+    // Crosscompile. Include files and sub-directories keep their position
+    // numbers, take ${SrcPath<i>} only on an exact match with the (relative)
+    // directory list, and start from ${PROJECT_SOURCE_DIR} whatever the
+    // project type.
+    in.projektType = 1;
+    in.includes = {{"/p/cmake/a.cmake", false}, {"src/eigen.cmake", true}, {"/p/src/abs.cmake", true},
+                   {"/p/b.cmake", true}};
+    in.biebs = {{"src", "een", true}, {"/p/lib1", "x", false}, {"/q/lib2", "twee", true}, {"/p", "drie", true}};
+    EXPECT_EQ(geefLijst(in, true).tekst,
+              begin +
                   "## Cross-compilation requires a rewrite of several CMake compilation directive.\n"
                   "## Please include a cross-compile configuration file here (using include or directly).\n\n"
-                  "set(SRCS )\n" +
+                  "set(SRCS )\nset(SrcPath0 ${CMAKE_CURRENT_SOURCE_DIR}/src)\n" +
                   geenIncludeMappen +
+                  "set(Include1Path ${SrcPath0})\ninclude(${Include1Path}/eigen.cmake)\n\n"
+                  "set(Include2Path ${PROJECT_SOURCE_DIR}/src)\ninclude(${Include2Path}/abs.cmake)\n\n"
+                  "set(Include3Path ${PROJECT_SOURCE_DIR}/.)\ninclude(${Include3Path}/b.cmake)\n\n"
+                  "set(SRCS0Path ${SrcPath0})\nset(SRCS0 a.c )\n" +
+                  foreachBlok(0) +
+                  "set(Lib0Path ${SrcPath0})\nadd_subdirectory(${Lib0Path})\n\n"
+                  "set(Lib2Path ${PROJECT_SOURCE_DIR}/../q/lib2)\nadd_subdirectory(${Lib2Path})\n\n"
+                  "set(Lib3Path ${PROJECT_SOURCE_DIR}/.)\nadd_subdirectory(${Lib3Path})\n\n"
                   "\nlist(SORT SRCS)\n\n## Enter the Cross compile commands here.\n"
-                  "target_link_libraries(${ProjectName} )\n\n" +
+                  "target_link_libraries(${ProjectName} een twee drie )\n\n" +
                   projektSlot);
 
     in.soort = 3; // no such kind: nothing at all
-    EXPECT_TRUE(geefUitvoer(in).empty());
+    EXPECT_TRUE(geefLijst(in, true).tekst.empty());
 }
 
 // The library variable's name comes from its template; the project type
@@ -270,7 +258,7 @@ TEST(Generator, TheLibraryKinds)
         in.projektType = geval.type == 3 ? 1 : 0;
         in.naam = "mylib";
         in.sjablonen.biebLibNaam = "MijnBieb";
-        EXPECT_EQ(geefUitvoer(in), "## Klavermol generated CMakelists add_library file\n" + kop + minimum +
+        EXPECT_EQ(geefLijst(in, true).tekst, "## Klavermol generated CMakelists add_library file\n" + kop + minimum +
                                        "# The absolute path for this CMakeLists.txt file is : \"/p/lib\"\n"
                                        "set(MijnBieb mylib)\n\nset(SRCS )\n" +
                                        (geval.type == 3 ? "set(SrcPath0 ${CMAKE_CURRENT_SOURCE_DIR}/.)\n"
@@ -301,7 +289,7 @@ TEST(Generator, TheIncludeFiles)
         kern::GeneratorInvoer in = maakInvoer("/p", {geval.bron}, kern::SoortInclude);
         in.naam = "Common";
         in.sjablonen.includeKommando = in.sjablonen.projektKommando = "## eigen";
-        EXPECT_EQ(geefUitvoer(in),
+        EXPECT_EQ(geefLijst(in, true).tekst,
                   "## Klavermol generated Common include file\n" + kop + minimum + "set(SRCS )\n" + geval.rest);
     }
 }

@@ -79,6 +79,11 @@ inline wxArrayString verzamelPerPatroon(const wxString& map, const std::vector<w
     return echt;
 }
 
+// A path below the directory `map` of a tree ("" is the root).
+inline std::string onder(const std::string& map, const std::string& naam)
+{
+    return map.empty() ? naam : map + "/" + naam;
+}
 
 // A tree of random shape: names in mixed case, extensions that differ only
 // in case, hidden files and directories, links to files, broken links,
@@ -89,6 +94,7 @@ inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
 {
     std::mt19937 rnd(zaad);
     const auto kans = [&rnd](unsigned n) { return rnd() % n == 0; };
+    const auto kies = [&rnd](const std::vector<std::string>& v) { return v[rnd() % v.size()]; };
     const std::vector<std::string> alleExt{".c", ".C", ".h", ".H", ".hpp", ".HPP", ".cpp", ".cxx",
                                            ".CXX", ".s", ".S", ".txt", ".c.orig", "", ".cc", ".hp"};
     std::vector<std::string> ext;
@@ -112,28 +118,24 @@ inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
     std::vector<std::string> mappen{"", "d0"};
     boom.maakMap("d0");
     for (int i = 1; i < 14; ++i) {
-        const std::string ouder = mappen[rnd() % mappen.size()];
-        const std::string map = (ouder.empty() ? "" : ouder + "/") + geefNaam(i);
-        boom.maakMap(map);
-        mappen.push_back(map);
+        const std::string ouder = kies(mappen);
+        mappen.push_back(onder(ouder, geefNaam(i)));
+        boom.maakMap(mappen.back());
     }
-    const auto in = [](const std::string& map) { return map.empty() ? map : map + "/"; };
     std::vector<std::string> bestanden;
     for (int i = 0; i < 45; ++i) {
-        bestanden.push_back(in(mappen[rnd() % mappen.size()]) + geefNaam(i) + geefExt());
+        bestanden.push_back(onder(kies(mappen), geefNaam(i) + geefExt()));
         boom.maakBestand(bestanden.back());
     }
     for (int i = 0; i < 6; ++i)
-        boom.maakLink(boom.pad(bestanden[rnd() % bestanden.size()]),
-                      in(mappen[rnd() % mappen.size()]) + "lf" + geefNaam(i) + geefExt());
+        boom.maakLink(boom.pad(kies(bestanden)), onder(kies(mappen), "lf" + geefNaam(i) + geefExt()));
     for (int i = 0; i < 2; ++i)
-        boom.maakLink("nergens", in(mappen[rnd() % mappen.size()]) + "bl" + geefNaam(i) + geefExt());
+        boom.maakLink("nergens", onder(kies(mappen), "bl" + geefNaam(i) + geefExt()));
     std::vector<std::string> doelen, plekken;
     for (const auto& m : mappen)
         (m.rfind("d0", 0) == 0 ? doelen : plekken).push_back(m);
     for (int i = 0; i < 4; ++i)
-        boom.maakLink(boom.pad(doelen[rnd() % doelen.size()]),
-                      in(plekken[rnd() % plekken.size()]) + "ld" + geefNaam(i) + geefExt());
+        boom.maakLink(boom.pad(kies(doelen)), onder(kies(plekken), "ld" + geefNaam(i) + geefExt()));
 }
 
 // Every combination of the four switches.

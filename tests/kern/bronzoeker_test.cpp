@@ -88,35 +88,31 @@ kern::Aanwezig onderzoekStapVoorStap(const wxString& map, int modus, const kern:
 {
     wxLogNull stil;
     wxDir dir(map);
-    if (!dir.IsOpened())
+    if (!dir.IsOpened() || modus < 0 || modus > 2)
         return v;
+    if (modus == 0)
+        return {dir.HasFiles("*.c"), dir.HasFiles("*.cpp") || dir.HasFiles("*.cxx"),
+                dir.HasFiles("*.h") || dir.HasFiles("*.hpp"), dir.HasFiles("*.s") || dir.HasFiles("*.S")};
     const auto eerste = [&](const char* p) {
         return !wxDir::FindFirst(map, p, geefToolkitVlaggen(modus)).empty();
     };
-    if (modus == 1 || modus == 2) {
-        if (aan.c) {
-            v.c = eerste("*.c");
-            if (aan.h)
+    if (aan.c) {
+        v.c = eerste("*.c");
+        if (aan.h)
+            v.h = eerste("*.h");
+    }
+    if (aan.cpp) {
+        v.cpp = eerste("*.cpp") || eerste("*.cxx");
+        if (aan.h) {
+            v.h = eerste("*.hpp");
+            if (!aan.c || !v.h)
                 v.h = eerste("*.h");
         }
-        if (aan.cpp) {
-            v.cpp = eerste("*.cpp") || eerste("*.cxx");
-            if (aan.h) {
-                v.h = eerste("*.hpp");
-                if (!aan.c || !v.h)
-                    v.h = eerste("*.h");
-            }
-        }
-        if (aan.h && !aan.c && !aan.cpp)
-            v.h = eerste("*.h") || eerste("*.hpp");
-        if (aan.s)
-            v.s = eerste("*.s") || eerste("*.S");
-    } else if (modus == 0) {
-        v.c = dir.HasFiles("*.c");
-        v.cpp = dir.HasFiles("*.cpp") || dir.HasFiles("*.cxx");
-        v.h = dir.HasFiles("*.h") || dir.HasFiles("*.hpp");
-        v.s = dir.HasFiles("*.s") || dir.HasFiles("*.S");
     }
+    if (aan.h && !aan.c && !aan.cpp)
+        v.h = eerste("*.h") || eerste("*.hpp");
+    if (aan.s)
+        v.s = eerste("*.s") || eerste("*.S");
     return v;
 }
 

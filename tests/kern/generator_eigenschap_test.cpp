@@ -82,18 +82,19 @@ TEST(GeneratorEigenschap, CMakeFindsEveryCheckedSourceOnceInRandomTrees)
 {
     std::mt19937 toeval(20201122);
     const auto kies = [&toeval](const std::vector<std::string>& lijst) { return lijst[toeval() % lijst.size()]; };
-    const auto in = [](const std::string& map) { return map.empty() ? map : map + "/"; };
     const char* extensies[] = {"c", "cpp", "cxx", "h", "hpp", "S", "s"};
     for (int ronde = 0; ronde < 25; ++ronde) {
         TijdelijkeBoom boom;
         std::vector<std::string> mappen{""}, bestanden;
         for (int i = 0, n = 1 + toeval() % 12; i < n; ++i) {
-            mappen.push_back(in(kies(mappen)) + "m" + std::to_string(i) + "_" + char('a' + toeval() % 26));
+            const std::string ouder = kies(mappen);
+            mappen.push_back(onder(ouder, "m" + std::to_string(i) + "_" + char('a' + toeval() % 26)));
             boom.maakMap(mappen.back());
         }
         for (int i = 0, n = toeval() % 61; i < n; ++i) {
-            bestanden.push_back(in(kies(mappen)) + "bestand_met_een_langere_naam-" + std::to_string(i) + "." +
-                                extensies[toeval() % WXSIZEOF(extensies)]);
+            const std::string map = kies(mappen);
+            bestanden.push_back(onder(map, "bestand_met_een_langere_naam-" + std::to_string(i) + "." +
+                                               extensies[toeval() % WXSIZEOF(extensies)]));
             boom.maakBestand(bestanden.back());
         }
         kern::GeneratorInvoer invoer = maakInvoer(boom.map(), toeval() % 3, "eigenschap");

@@ -2,37 +2,31 @@
 
 #include <wx/app.h>
 #include <wx/filename.h>
+#include <wx/filepicker.h>
 #include <wx/dialog.h>
 #include <wx/init.h>
 #include <wx/modalhook.h>
 #include <wx/wfstream.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <map>
 
 namespace {
 
-struct AssertRegel
-{
-    std::string conditie;
-    std::string melding;
-};
-
-std::vector<AssertRegel> asserts;
+std::vector<std::string> asserts; // the conditions, as raised
 std::vector<std::string> verwacht;
 bool programmaAlGestart = false;
 
 void assertHandler(const wxString& bestand, int regel, const wxString& functie, const wxString& conditie,
                    const wxString& melding)
 {
-    asserts.push_back({conditie.ToStdString(), melding.ToStdString()});
-    for (const std::string& v : verwacht)
-        if (v == conditie.ToStdString())
-            return;
+    asserts.push_back(conditie.ToStdString());
+    if (std::count(verwacht.begin(), verwacht.end(), asserts.back()) > 0)
+        return;
     ADD_FAILURE_AT(bestand.ToStdString().c_str(), regel)
         << "wx assertion in " << functie << ": " << conditie << " " << melding;
 }
@@ -108,25 +102,10 @@ void ProgrammaTest::TearDown()
 
 int ProgrammaTest::startOpnieuw(const std::string& filter)
 {
-    const std::string opdracht = std::string(vorigThuis) + "=" + thuis.ToStdString() + " '" +
+    const std::string aanroep = std::string(vorigThuis) + "=" + thuis.ToStdString() + " '" +
                                  std::filesystem::read_symlink("/proc/self/exe").string() +
                                  "' --gtest_filter=" + filter;
-    return std::system(opdracht.c_str());
-}
-
-void ProgrammaTest::schrijfInstellingen(const std::string& inhoud)
-{
-    instellingen = inhoud;
-}
-
-void ProgrammaTest::zetTaal(int taal)
-{
-    eersteTaal = taal;
-}
-
-wxString ProgrammaTest::instellingenPad() const
-{
-    return thuis + "/.Klavermol";
+    return std::system(aanroep.c_str());
 }
 
 void ProgrammaTest::start()
@@ -216,6 +195,43 @@ void ProgrammaTest::verwerk()
         app().geefVenster()->UpdateWindowUI(wxUPDATE_UI_RECURSE);
 }
 
+void ProgrammaTest::opdracht(wxEventType soort, int id, int waarde)
+{
+    wxCommandEvent e(soort, id);
+    e.SetInt(waarde);
+    venster().ProcessWindowEvent(e);
+}
+
+bool ProgrammaTest::aan(int id)
+{
+    venster().UpdateWindowUI(wxUPDATE_UI_RECURSE);
+    wxWindow* w = venster().FindWindow(id);
+    EXPECT_NE(w, nullptr) << id;
+    return w != nullptr && w->IsEnabled();
+}
+
+void ProgrammaTest::kiesZoekMap(const wxString& pad)
+{
+    venster().vindBestandenInDirs->SetPath(pad);
+    wxFileDirPickerEvent e(wxEVT_DIRPICKER_CHANGED, venster().vindBestandenInDirs, VindBestandenInDirsID, pad);
+    venster().ProcessWindowEvent(e);
+}
+
+wxString ProgrammaTest::maakMap(const wxString& naam) const
+{
+    const wxString pad = thuis + "/" + naam;
+    wxFileName::Mkdir(pad, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+    return pad;
+}
+
+wxString ProgrammaTest::maakBestand(const wxString& naam) const
+{
+    const wxString pad = thuis + "/" + naam;
+    wxFileName::Mkdir(wxFileName(pad).GetPath(), wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+    std::ofstream(pad.ToStdString()) << "\n";
+    return pad;
+}
+
 void ProgrammaTest::verwachtAssert(const std::string& conditie)
 {
     verwacht.push_back(conditie);
@@ -223,11 +239,7 @@ void ProgrammaTest::verwachtAssert(const std::string& conditie)
 
 int ProgrammaTest::aantalAsserts(const std::string& conditie) const
 {
-    int n = 0;
-    for (const AssertRegel& a : asserts)
-        if (a.conditie == conditie)
-            ++n;
-    return n;
+    return static_cast<int>(std::count(asserts.begin(), asserts.end(), conditie));
 }
 
 std::vector<LogRegel> ProgrammaTest::logRegels(wxLogLevel niveau) const
@@ -241,10 +253,17 @@ std::vector<LogRegel> ProgrammaTest::logRegels(wxLogLevel niveau) const
 
 bool ProgrammaTest::heeftLog(wxLogLevel niveau, const wxString& tekst) const
 {
+    return std::any_of(alleLog.begin(), alleLog.end(),
+                       [&](const LogRegel& r) { return r.niveau == niveau && r.tekst == tekst; });
+}
+
+std::vector<wxString> ProgrammaTest::logMet(wxLogLevel niveau, const wxString& begin) const
+{
+    std::vector<wxString> uit;
     for (const LogRegel& r : alleLog)
-        if (r.niveau == niveau && r.tekst == tekst)
-            return true;
-    return false;
+        if (r.niveau == niveau && r.tekst.StartsWith(begin))
+            uit.push_back(r.tekst);
+    return uit;
 }
 
 int main(int argc, char** argv)

@@ -28,16 +28,16 @@ protected:
     void TearDown() override;
 
     // Writes the settings file the program will find (before start()).
-    void schrijfInstellingen(const std::string& inhoud);
+    void schrijfInstellingen(const std::string& inhoud) { instellingen = inhoud; }
     // Pins the interface language in the settings file (default English).
-    void zetTaal(int taal);
+    void zetTaal(int taal) { eersteTaal = taal; }
 
     void start();   // constructs the application object and runs OnInit
     void stop();    // closes the program in order: window, then application
 
     // The settings file as the program left it.
     std::unique_ptr<wxFileConfig> leesInstellingen() const;
-    wxString instellingenPad() const;
+    wxString instellingenPad() const { return thuis + "/.Klavermol"; }
 
     Klavermol& app() const;
     KlavermolVenster& venster() const;
@@ -45,12 +45,26 @@ protected:
     // Lets pending events and idle processing run; refreshes update-UI state.
     void verwerk();
 
+    // Sends a command event (button, menu, check box...) to the main window.
+    void opdracht(wxEventType soort, int id, int waarde = 0);
+    void klik(int id) { opdracht(wxEVT_BUTTON, id); }
+    // Whether the window's control `id` is enabled after an update-UI refresh.
+    bool aan(int id);
+    // Picks `pad` in the search-location picker, as the user does.
+    void kiesZoekMap(const wxString& pad);
+
+    // A directory, or a one-line file with its directories, below the home.
+    wxString maakMap(const wxString& naam) const;
+    wxString maakBestand(const wxString& naam) const;
+
     // The assertion (by its condition text) that this test expects to see.
     void verwachtAssert(const std::string& conditie);
     int aantalAsserts(const std::string& conditie) const;
 
     std::vector<LogRegel> logRegels(wxLogLevel niveau) const;
     bool heeftLog(wxLogLevel niveau, const wxString& tekst) const;
+    // The texts logged at `niveau` that start with `begin`, in order.
+    std::vector<wxString> logMet(wxLogLevel niveau, const wxString& begin) const;
 
     // What the restart seam recorded, in order ("start:<path>", "stop").
     std::vector<std::string> procesStappen;

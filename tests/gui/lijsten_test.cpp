@@ -45,9 +45,9 @@ protected:
         return n;
     }
 
-    BeantwoordVraag vraag(int aantal, int antwoord) const
+    Antwoord<wxMessageDialog> vraag(int aantal, int antwoord) const
     {
-        return BeantwoordVraag(wxString::Format("%d files are present the visible selection list.\nDo you want to "
+        return beantwoordVraag(wxString::Format("%d files are present the visible selection list.\nDo you want to "
                                                 "remove them all?",
                                                 aantal),
                                "More than 10 files found", antwoord);

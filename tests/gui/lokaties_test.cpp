@@ -16,47 +16,26 @@ namespace {
 // Answers the directory dialog of "Go somewhere else": GTK's chooser hands
 // back its choice only from the screen, so an OK puts the choice where the
 // dialog keeps it.
-class KiesMap : public wxExpectModalBase<wxDirDialog, KiesMap>
+struct KiesMap : wxDirDialog
 {
-public:
-    explicit KiesMap(const wxString& pad = wxString()) : pad(pad) {}
-
-protected:
-    struct Keuze : wxDirDialog
+    static Antwoord<wxDirDialog> met(const wxString& pad)
     {
-        static constexpr wxString wxDirDialogBase::*pad = &Keuze::m_path;
-    };
-
-    int OnInvoked(wxDirDialog* dlg) const override
-    {
-        if (pad.empty())
-            return wxID_CANCEL;
-        dlg->*Keuze::pad = pad;
-        return wxID_OK;
+        return Antwoord<wxDirDialog>([=](wxDirDialog& dlg) {
+            dlg.*(&KiesMap::m_path) = pad;
+            return pad.empty() ? wxID_CANCEL : wxID_OK;
+        });
     }
-
-private:
-    wxString pad;
 };
 
 // Picks a row of the recent-locations dialog, then answers.
-class KiesRecent : public wxExpectModalBase<RecenteLokatieVenster, KiesRecent>
+Antwoord<RecenteLokatieVenster> kiesRecent(int rij, int antwoord)
 {
-public:
-    KiesRecent(int rij, int antwoord) : rij(rij), antwoord(antwoord) {}
-
-protected:
-    int OnInvoked(RecenteLokatieVenster* dlg) const override
-    {
-        EXPECT_EQ(dlg->GetTitle(), "Recent locations where you searched for CMake files");
-        dlg->geefLijst()->SetSelection(rij);
+    return Antwoord<RecenteLokatieVenster>([=](RecenteLokatieVenster& dlg) {
+        EXPECT_EQ(dlg.GetTitle(), "Recent locations where you searched for CMake files");
+        dlg.geefLijst()->SetSelection(rij);
         return antwoord;
-    }
-
-private:
-    int rij;
-    int antwoord;
-};
+    });
+}
 
 } // namespace
 
@@ -66,16 +45,15 @@ protected:
     wxString picker() { return venster().vindBestandenInDirs->GetPath(); }
 };
 
-// With no location Forward is on and reaches the out-of-range error. A, B,
-// C picked: index 3, so the first Back shows C again. Each step sets the
-// picker and probes the location without recording it.
+// With no location Forward reaches the out-of-range error. A, B, C picked:
+// index 3, so the first Back shows C again. Each step sets the picker and
+// probes the location without recording it.
 TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
 {
     const wxString a = maakMap("A"), b = maakMap("B"), c = maakMap("C");
     maakBestand("A/x.c");
     start();
     KlavermolVenster& v = venster();
-    EXPECT_TRUE(aan(wxID_FORWARD));
     wxCommandEvent vooruit(wxEVT_BUTTON, wxID_FORWARD);
     EXPECT_THROW(v.OnFORWARDClick(vooruit), std::out_of_range);
 
@@ -116,9 +94,9 @@ TEST_F(Lokaties, HomeAndElsewhereRememberTheirLocation)
     EXPECT_EQ(v.recenteLokaties.GetCount(), 1u);
 
     const wxString voor = picker();
-    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap());
+    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(wxString()));
     EXPECT_EQ(v.recenteLokaties.GetCount(), 1u);
-    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap(elders));
+    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(elders));
     EXPECT_EQ(v.recenteLokaties.GetCount(), 2u);
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), elders);
     EXPECT_EQ(picker(), voor);
@@ -131,7 +109,6 @@ TEST_F(Lokaties, TheRecentLocationsKeepNineAndOfferThemNewestFirst)
 {
     start();
     KlavermolVenster& v = venster();
-    EXPECT_FALSE(aan(VorigeLokatieID));
     v.voegCBestandenToe = true;
     v.voegToeModeKeuze->SetSelection(1);
     for (int i = 0; i < 10; ++i) {
@@ -141,11 +118,10 @@ TEST_F(Lokaties, TheRecentLocationsKeepNineAndOfferThemNewestFirst)
     ASSERT_EQ(v.recenteLokaties.GetCount(), 9u);
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), thuis + "/d9/");
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(8), thuis + "/d1/");
-    EXPECT_TRUE(aan(VorigeLokatieID));
 
-    wxTEST_DIALOG(klik(VorigeLokatieID), KiesRecent(1, wxID_CANCEL));
+    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(1, wxID_CANCEL));
     EXPECT_EQ(picker(), thuis + "/d9");
-    wxTEST_DIALOG(klik(VorigeLokatieID), KiesRecent(1, wxID_OK));
+    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(1, wxID_OK));
     EXPECT_EQ(picker(), thuis + "/d8/");
     EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 0u);
 }

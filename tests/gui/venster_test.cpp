@@ -111,7 +111,6 @@ TEST_F(Venster, APreWrittenStoreIsRestoredIntoEveryControl)
     EXPECT_TRUE(v.GetMenuBar()->IsChecked(VoegHBestandenToeID));
     EXPECT_FALSE(v.GetMenuBar()->IsChecked(VoegCPPBestandenToeID));
     EXPECT_EQ(v.GetStatusBar()->GetStatusText(1), "Current filter searches for: C  H  S ");
-    EXPECT_EQ(v.bestandTypeFilter, "C files (*.c)|*.c|H files (*.h)|*.h|ASM files (*.s)|*.s;*.S");
     EXPECT_EQ(v.uitsluitTerm->GetValue(), "test");
     ASSERT_EQ(v.recenteLokaties.GetCount(), 2u);
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), "/a");

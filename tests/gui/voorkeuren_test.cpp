@@ -44,28 +44,18 @@ wxString sleutelPad(const VeldRegel& v)
 // Plays the user: showing the dialog runs the validators into the texts,
 // then `handeling` works the controls and the answer ends it. OK runs the
 // transfer back, as the OK button does.
-class Gebruiker : public wxExpectModalBase<Preferences, Gebruiker>
+Antwoord<Preferences> gebruiker(int antwoord, std::function<void(Preferences&)> handeling)
 {
-public:
-    Gebruiker(int antwoord, std::function<void(Preferences&)> handeling)
-        : antwoord(antwoord), handeling(std::move(handeling)) {}
-
-protected:
-    int OnInvoked(Preferences* dlg) const override
-    {
-        dlg->InitDialog();
-        handeling(*dlg);
+    return Antwoord<Preferences>([=](Preferences& dlg) {
+        dlg.InitDialog();
+        handeling(dlg);
         if (antwoord == wxID_OK) {
-            EXPECT_TRUE(dlg->Validate());
-            EXPECT_TRUE(dlg->TransferDataFromWindow());
+            EXPECT_TRUE(dlg.Validate());
+            EXPECT_TRUE(dlg.TransferDataFromWindow());
         }
         return antwoord;
-    }
-
-private:
-    int antwoord;
-    std::function<void(Preferences&)> handeling;
-};
+    });
+}
 
 // The text controls below a window, in creation order.
 void verzamelTeksten(wxWindow* w, std::vector<wxTextCtrl*>& uit)
@@ -91,7 +81,7 @@ wxString labelVan(wxTextCtrl* tekst)
 class Voorkeuren : public ProgrammaTest
 {
 protected:
-    void open(const Gebruiker& gebruiker) { wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_PREFERENCES), gebruiker); }
+    void open(const Antwoord<Preferences>& gebruiker) { wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_PREFERENCES), gebruiker); }
 
     // Every text shows, and the window holds, what `waarde` gives for it.
     void verwachtOveral(Preferences* dlg, const std::function<wxString(const VeldRegel&)>& waarde)
@@ -116,7 +106,7 @@ TEST_F(Voorkeuren, TheStoredTemplatesAsShownAndCancel)
         inhoud += std::string(v.sleutel) + "=" + opgeslagen(v).ToStdString() + "\n";
     schrijfInstellingen(inhoud);
     start();
-    open(Gebruiker(wxID_CANCEL, [&](Preferences& dlg) {
+    open(gebruiker(wxID_CANCEL, [&](Preferences& dlg) {
         EXPECT_EQ(dlg.GetTitle(), "Preferences");
         wxBookCtrlBase* boek = dlg.GetBookCtrl();
         const char* titels[] = {"General", "CMake Project cmd", "CMake Library cmd", "CMake Include cmd"};
@@ -155,12 +145,12 @@ TEST_F(Voorkeuren, OkTakesTheTextsAndTheExitWritesTheSevenSavedOnes)
     const auto bevestigd = [](const VeldRegel& v) {
         return std::strlen(v.sleutel) % 2 == 0 ? wxString() : wxString("## confirmed\n\t") + v.sleutel;
     };
-    open(Gebruiker(wxID_OK, [&](Preferences& dlg) {
+    open(gebruiker(wxID_OK, [&](Preferences& dlg) {
         verwachtOveral(&dlg, [](const VeldRegel& v) { return kern::geefStandaardSjablonen().*v.lid; });
         for (const VeldRegel& v : velden)
             dlg.geefTekst(v.lid)->SetValue(bevestigd(v));
     }));
-    open(Gebruiker(wxID_CANCEL, [&](Preferences& dlg) { verwachtOveral(&dlg, bevestigd); }));
+    open(gebruiker(wxID_CANCEL, [&](Preferences& dlg) { verwachtOveral(&dlg, bevestigd); }));
     stop();
     auto config = leesInstellingen();
     for (const VeldRegel& v : velden) {

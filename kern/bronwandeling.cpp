@@ -75,8 +75,10 @@ struct MapId {
 class Wandeling {
 public:
     Wandeling(const std::vector<wxString>& patronen, const WandelWijze& wijze,
-              Volgorde volgorde, const MapOntvanger& ontvanger, std::size_t& overgeslagen)
-        : wijze_(wijze), volgorde_(volgorde), ontvanger_(ontvanger), overgeslagen_(overgeslagen)
+              Volgorde volgorde, const MapOntvanger& ontvanger, std::size_t& overgeslagen,
+              Voortgang* voortgang)
+        : wijze_(wijze), volgorde_(volgorde), ontvanger_(ontvanger), overgeslagen_(overgeslagen),
+          voortgang_(voortgang)
     {
         for (const wxString& p : patronen)
             patronen_.push_back(p.ToStdWstring());
@@ -99,6 +101,7 @@ private:
     std::size_t& overgeslagen_;
     std::vector<std::wstring> patronen_;
     std::vector<MapId> pad_;
+    Voortgang* voortgang_;
     bool gestopt_ = false;
 };
 
@@ -193,8 +196,13 @@ void Wandeling::bezoek(DIR* d, const wxString& prefix)
     }
     ::closedir(d);
 
+    if (voortgang_) {
+        voortgang_->mappen.fetch_add(1, std::memory_order_relaxed);
+        voortgang_->bestanden.fetch_add(treffers.size(), std::memory_order_relaxed);
+        gestopt_ = gestopt_ || voortgang_->isAfgebroken();
+    }
     const auto geefAf = [&]() {
-        if (!treffers.empty() && !ontvanger_(prefix, treffers))
+        if (!gestopt_ && !treffers.empty() && !ontvanger_(prefix, treffers))
             gestopt_ = true;
     };
     if (volgorde_ == Volgorde::EigenBestandenEerst)
@@ -242,7 +250,7 @@ wxString geefPrefix(const wxString& map)
 
 bool wandel(const wxString& map, const std::vector<wxString>& patronen,
             const WandelWijze& wijze, Volgorde volgorde,
-            const MapOntvanger& ontvanger, std::size_t* overgeslagen)
+            const MapOntvanger& ontvanger, std::size_t* overgeslagen, Voortgang* voortgang)
 {
     wxASSERT_MSG(patronen.size() <= 32, "te veel patronen voor één wandeling");
     if (map.empty())
@@ -251,7 +259,7 @@ bool wandel(const wxString& map, const std::vector<wxString>& patronen,
     if (!d)
         return false;
     std::size_t geteld = 0;
-    Wandeling(patronen, wijze, volgorde, ontvanger, geteld).gaIn(d, geefPrefix(map));
+    Wandeling(patronen, wijze, volgorde, ontvanger, geteld, voortgang).gaIn(d, geefPrefix(map));
     if (overgeslagen)
         *overgeslagen += geteld;
     return true;

@@ -24,6 +24,8 @@
 //  - unlike the toolkit, a directory that is already on the path from the
 //    root (same device and inode, reached again through a link or a bind
 //    mount) is not entered again, so a recursive walk always ends.
+#include "kern/voortgang.h"
+
 #include <wx/string.h>
 
 #include <cstddef>
@@ -60,10 +62,12 @@ enum class Volgorde { SubmappenEerst, EigenBestandenEerst };
 
 // Walks `map` with at most 32 patterns. Returns false when `map` itself
 // cannot be opened (nothing is then handed out). The names left out are
-// added to `*overgeslagen` when it is given.
+// added to `*overgeslagen` when it is given. With `voortgang` the walk
+// counts what it has read there and ends early once it is told to stop.
 bool wandel(const wxString& map, const std::vector<wxString>& patronen,
             const WandelWijze& wijze, Volgorde volgorde,
-            const MapOntvanger& ontvanger, std::size_t* overgeslagen = nullptr);
+            const MapOntvanger& ontvanger, std::size_t* overgeslagen = nullptr,
+            Voortgang* voortgang = nullptr);
 
 // The toolkit's wildcard match of a name against a pattern; with puntApart
 // a name starting with a dot never matches.

@@ -95,7 +95,7 @@ std::vector<wxString> geefPatronen(const Families& aan)
 }
 
 bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
-                       wxArrayString& gevonden, std::size_t* overgeslagen)
+                       wxArrayString& gevonden, std::size_t* overgeslagen, Voortgang* voortgang)
 {
     if (modus != ModusMap && modus != ModusRecursief)
         return true;
@@ -114,7 +114,9 @@ bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
                         emmers[i].push_back(pad);
             }
             return true;
-        }, overgeslagen);
+        }, overgeslagen, voortgang);
+    if (voortgang && voortgang->isAfgebroken())
+        return open;
     size_t totaal = gevonden.size();
     for (const auto& emmer : emmers)
         totaal += emmer.size();
@@ -125,7 +127,8 @@ bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
     return open;
 }
 
-bool onderzoekMap(const wxString& map, int modus, const Families& aan, Aanwezig& vlaggen)
+bool onderzoekMap(const wxString& map, int modus, const Families& aan, Aanwezig& vlaggen,
+                  Voortgang* voortgang)
 {
     if (modus != ModusBestanden && modus != ModusMap && modus != ModusRecursief)
         return kanOpenen(map);
@@ -148,9 +151,11 @@ bool onderzoekMap(const wxString& map, int modus, const Families& aan, Aanwezig&
                 if ((gezien & v.masker) == 0)
                     return true;
             return false; // every flag asked for is true: stop
-        });
+        }, nullptr, voortgang);
     if (!open)
         return false;
+    if (voortgang && voortgang->isAfgebroken())
+        return true;
     for (const Vraag& v : vragen)
         *v.vlag = (gezien & v.masker) != 0;
     vlaggen = nieuw;

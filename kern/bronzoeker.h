@@ -3,6 +3,8 @@
 // location. Both walk the directory at most once; the results are those of
 // the toolkit's wxDir enumeration pattern by pattern (see bronwandeling.h
 // for the traversal rules), except that a recursive walk never loops.
+#include "kern/voortgang.h"
+
 #include <wx/arrstr.h>
 #include <wx/string.h>
 
@@ -34,9 +36,12 @@ std::vector<wxString> geefPatronen(const Families& aan);
 // Other modes collect nothing. Returns false when `map` cannot be opened
 // (the caller raises "true == mag"), and then appends nothing. Names no
 // CMake text could name (see bronwandeling.h) are left out and added to
-// `*overgeslagen` when it is given.
+// `*overgeslagen` when it is given. With `voortgang` the walk reports its
+// counts there and can be stopped from another thread; a stopped walk
+// appends nothing.
 bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
-                       wxArrayString& gevonden, std::size_t* overgeslagen = nullptr);
+                       wxArrayString& gevonden, std::size_t* overgeslagen = nullptr,
+                       Voortgang* voortgang = nullptr);
 
 // The probe's found flags: found-C, found-C++, found-header, found-assembler.
 struct Aanwezig {
@@ -56,6 +61,9 @@ struct Aanwezig {
 // "*.s"/"*.S". Other modes change nothing.
 // The walk stops as soon as every flag asked for is known to be true.
 // Returns false, leaving the flags alone, when `map` cannot be opened.
-bool onderzoekMap(const wxString& map, int modus, const Families& aan, Aanwezig& vlaggen);
+// With `voortgang` as for verzamelBestanden; a stopped probe leaves the
+// flags alone.
+bool onderzoekMap(const wxString& map, int modus, const Families& aan, Aanwezig& vlaggen,
+                  Voortgang* voortgang = nullptr);
 
 } // namespace kern

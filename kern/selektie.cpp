@@ -1,5 +1,6 @@
 #include "kern/selektie.h"
 
+#include <wx/filefn.h>
 #include <wx/translation.h>
 
 namespace kern {
@@ -36,13 +37,39 @@ bool BronSelektie::voegToe(const wxString& pad)
     if (!aanwezig_.insert(pad).second)
         return false;
     lijst_.push_back(pad);
+    vinkjes_.push_back(true);
     return true;
 }
 
 void BronSelektie::wis()
 {
     lijst_.clear();
+    vinkjes_.clear();
     aanwezig_.clear();
+}
+
+void BronSelektie::zetAllesAangevinkt(bool aan)
+{
+    vinkjes_.assign(vinkjes_.size(), aan);
+}
+
+namespace {
+
+// The directory part of an entry, without its closing separator.
+wxString mapVan(const wxString& pad)
+{
+    const size_t slash = pad.rfind(wxFILE_SEP_PATH);
+    return slash == wxString::npos ? wxString() : pad.substr(0, slash);
+}
+
+} // namespace
+
+void BronSelektie::wisselMap(size_t index)
+{
+    const wxString map = mapVan(lijst_[index]);
+    for (size_t i = 0; i < lijst_.size(); ++i)
+        if (mapVan(lijst_[i]) == map)
+            vinkjes_[i] = !vinkjes_[i];
 }
 
 bool BronSelektie::bevat(const wxString& pad) const

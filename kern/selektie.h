@@ -45,10 +45,19 @@ public:
 
     bool bevat(const wxString& pad) const;
     size_t aantal() const { return lijst_.size(); }
-    const wxString& geef(size_t index) const { return lijst_[index]; }
+    wxString geef(size_t index) const { return lijst_[index]; }
+
+    // The check marks: an entry is appended checked; only checked entries
+    // go into the CMake file.
+    bool isAangevinkt(size_t index) const { return vinkjes_[index]; }
+    void zetAangevinkt(size_t index, bool aan) { vinkjes_[index] = aan; }
+    void zetAllesAangevinkt(bool aan);
+    // Flips the check mark of every entry in the directory of entry `index`.
+    void wisselMap(size_t index);
 
 private:
     std::vector<wxString> lijst_;
+    std::vector<bool> vinkjes_;
     std::unordered_set<wxString> aanwezig_;
 };
 

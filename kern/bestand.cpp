@@ -5,11 +5,23 @@
 #include <wx/txtstrm.h>
 #include <wx/wfstream.h>
 
+#include <cerrno>
 #include <sys/stat.h>
 
 namespace kern {
 
-bool schrijfTekstBestand(const wxString& pad, const wxString& tekst)
+namespace {
+
+bool mislukt(wxString* reden, int fout)
+{
+    if (reden)
+        *reden = wxSysErrorMsgStr(static_cast<unsigned long>(fout));
+    return false;
+}
+
+} // namespace
+
+bool schrijfTekstBestand(const wxString& pad, const wxString& tekst, wxString* reden)
 {
     wxLogNull stil; // the caller reports failures in its own words
     // A file marked read-only is refused for every user, root included,
@@ -17,21 +29,23 @@ bool schrijfTekstBestand(const wxString& pad, const wxString& tekst)
     struct stat st;
     if (::stat(pad.fn_str(), &st) == 0 && ((st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0
                                            || !wxFileName::IsFileWritable(pad)))
-        return false;
+        return mislukt(reden, EACCES);
 
+    errno = 0;
     wxTempFileOutputStream stroom(pad);
     if (!stroom.IsOk())
-        return false;
+        return mislukt(reden, errno ? errno : EACCES);
     {
         wxTextOutputStream tekstStroom(stroom, wxEOL_NATIVE, wxConvUTF8);
         tekstStroom.WriteString(tekst);
         tekstStroom.Flush();
     }
     if (!stroom.IsOk()) {
+        const int fout = errno ? errno : EIO;
         stroom.Discard();
-        return false;
+        return mislukt(reden, fout);
     }
-    return stroom.Commit();
+    return stroom.Commit() || mislukt(reden, errno ? errno : EIO);
 }
 
 } // namespace kern

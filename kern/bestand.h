@@ -9,7 +9,8 @@ namespace kern {
 // directory, which replaces `pad` only when all of it was written; on any
 // failure (directory not writable, disk full, an existing file that is not
 // writable or is marked read-only) `pad` is left as it was and false is
-// returned.
-bool schrijfTekstBestand(const wxString& pad, const wxString& tekst);
+// returned, with the system's reason (such as "Permission denied") in
+// `*reden` when it is given.
+bool schrijfTekstBestand(const wxString& pad, const wxString& tekst, wxString* reden = nullptr);
 
 } // namespace kern

@@ -78,6 +78,31 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
         EXPECT_TRUE(static_cast<wxBitmapButton*>(v.FindWindow(id))->GetBitmap().IsOk()) << id;
 }
 
+// Every picture is drawn from its file at its own size: see-through at the
+// corner, and covering a good part of its square.
+TEST_F(Venster, EveryPictureIsDrawnAtItsOwnSize)
+{
+    start();
+    const std::string p = "../../../grafisch/ikonen/";
+    const std::pair<std::string, int> beelden[] = {
+        {p + "32x32/icons8-home.png", 32}, {p + "32x32/icons8-time_machine.png", 32},
+        {p + "32x32/icons8-circled_left.png", 32}, {p + "32x32/icons8-circled_right.png", 32},
+        {p + "32x32/icons8-greenplus.png", 32}, {p + "32x32/icons8-blueplus.png", 32},
+        {p + "32x32/icons8-joyent.png", 32}, {"ikoon/cmakelogo_klein.png", 48},
+        {p + "32x32/icons8-language.png", 32}, {p + "Zelvano_zeerklein.jpg", 24}, {"ikoon/Klavermol.jpg", 32},
+        {p + "32x32/icons8-customer_support.png", 32}, {p + "32x32/icons8-project_setup.png", 32},
+        {p + "32x32/icons8-books.png", 32}, {p + "32x32/icons8-circuit.png", 32}};
+    for (const auto& [naam, maat] : beelden) {
+        const wxImage beeld = venster().GetBitmapResource(naam).GetBitmap(wxDefaultSize).ConvertToImage();
+        ASSERT_TRUE(beeld.IsOk() && beeld.HasAlpha()) << naam;
+        EXPECT_EQ(beeld.GetSize(), wxSize(maat, maat)) << naam;
+        int dekkend = 0;
+        for (int i = 0; i < maat * maat; ++i)
+            dekkend += beeld.GetAlpha()[i] > 200;
+        EXPECT_TRUE(beeld.GetAlpha(0, 0) == 0 && dekkend > maat * maat / 4) << naam << " " << dekkend;
+    }
+}
+
 TEST_F(Venster, APreWrittenStoreIsRestoredIntoEveryControl)
 {
     const wxString bron = maakMap("bron");

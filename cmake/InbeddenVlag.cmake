@@ -5,6 +5,7 @@
 #   the renderer does not centre by itself), so a square image shows the
 #   whole flag with see-through bands above and below;
 # - every <use> of a single element becomes a group holding a copy of it.
+
 # Numbers in thousandths, so that CMake's integer arithmetic can move them.
 function(naar_duizendsten tekst uit)
   if(NOT tekst MATCHES "^(-?)([0-9]*)\\.?([0-9]*)$")

@@ -33,4 +33,3 @@ wxIcon geefIkoon(const wxString& sleutel, const wxSize& grootte = wxDefaultSize)
 
 // Whether the name is one of the known names.
 bool isBekendeAfbeelding(const wxString& sleutel);
-

@@ -1,6 +1,7 @@
 #include "afbeeldingen.h"
 
 #include <wx/filename.h>
+#include <wx/image.h>
 #include <wx/stdpaths.h>
 
 #include <string>
@@ -82,6 +83,15 @@ wxBitmapBundle geefSvgBundel(const unsigned char* svg, std::size_t lengte, const
     // The renderer wants a NUL-terminated text.
     const std::string tekst(reinterpret_cast<const char*>(svg), lengte);
     return wxBitmapBundle::FromSVG(tekst.c_str(), grootte);
+}
+
+wxBitmap geefLijstBeeld(const wxBitmapBundle& bundel, const wxWindow* venster, const wxSize& maat)
+{
+    if (bundel.IsOk())
+        return bundel.GetBitmapFor(venster);
+    wxImage leeg(maat);
+    leeg.SetMaskColour(0, 0, 0);
+    return wxBitmap(leeg);
 }
 
 wxBitmap geefAfbeelding(const wxString& sleutel, const wxSize& grootte)

@@ -58,7 +58,7 @@ void Preferences::CreateControls()
     // Rendered at the screen's scale: twice the pixels on a doubled screen.
     auto* beelden = new wxImageList(16, 16, true, WXSIZEOF(paginaBeelden));
     for (const char* naam : paginaBeelden)
-        beelden->Add(geefBeeldBundel(naam, beelden->GetSize()).GetBitmapFor(GetBookCtrl()));
+        beelden->Add(geefLijstBeeld(geefBeeldBundel(naam, beelden->GetSize()), GetBookCtrl(), beelden->GetSize()));
     GetBookCtrl()->AssignImageList(beelden);
 
     wxPanel* algemeen = voegPaginaToe(AlgemeenPaneelID, _("General"), 0);

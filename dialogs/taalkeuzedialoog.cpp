@@ -135,11 +135,8 @@ void TaalKeuzeDialoog::initTalen()
 
     // Rendered at the screen's scale: twice the pixels on a doubled screen.
     const wxSize maat = vlaggen->GetSize();
-    for (std::size_t i = 0; i < WXSIZEOF(Vlaggen); ++i) {
-        const wxBitmapBundle vlag = geefSvgBundel(Vlaggen[i], Lengten[i], maat);
-        // an empty image keeps the indices in step when a flag cannot be read
-        vlaggen->Add(vlag.IsOk() ? vlag.GetBitmapFor(lijst) : wxBitmap(maat));
-    }
+    for (std::size_t i = 0; i < WXSIZEOF(Vlaggen); ++i)
+        vlaggen->Add(geefLijstBeeld(geefSvgBundel(Vlaggen[i], Lengten[i], maat), lijst, maat));
     lijst->AssignImageList(vlaggen, wxIMAGE_LIST_NORMAL);
 }
 

@@ -12,6 +12,8 @@
 
 #include <cstddef>
 
+class wxWindow;
+
 // <directory of the executable>/../share/klavermol: the same relative place
 // in the build tree and in an installation.
 wxString geefDataMap();
@@ -26,6 +28,10 @@ wxBitmapBundle geefBeeldBundel(const wxString& sleutel, const wxSize& grootte = 
 
 // An SVG text held in memory (not NUL-terminated), shown at grootte.
 wxBitmapBundle geefSvgBundel(const unsigned char* svg, std::size_t lengte, const wxSize& grootte);
+
+// The bitmap an image list holds: the bundle at the window's scale, or a
+// see-through one of the list's size, so that the indices stay in step.
+wxBitmap geefLijstBeeld(const wxBitmapBundle& bundel, const wxWindow* venster, const wxSize& maat);
 
 // The same as a bitmap and as an icon, at the normal scale.
 wxBitmap geefAfbeelding(const wxString& sleutel, const wxSize& grootte = wxDefaultSize);

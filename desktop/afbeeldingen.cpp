@@ -1,9 +1,10 @@
 #include "afbeeldingen.h"
 
-#include <wx/artprov.h>
 #include <wx/filename.h>
 #include <wx/image.h>
 #include <wx/stdpaths.h>
+
+#include <string>
 
 namespace {
 
@@ -11,25 +12,25 @@ struct Afbeelding
 {
     const char* sleutel;
     const char* bestand;     // below geefDataMap()
-    const char* vervanging;  // wxArtProvider id used when the file is missing
+    int maat;                // width and height the window shows it at
 };
 
 const Afbeelding afbeeldingen[] = {
-    {"../../../grafisch/ikonen/32x32/icons8-home.png", "ikonen/thuis.png", wxART_GO_HOME},
-    {"../../../grafisch/ikonen/32x32/icons8-time_machine.png", "ikonen/tijdmachine.png", wxART_FILE_OPEN},
-    {"../../../grafisch/ikonen/32x32/icons8-circled_left.png", "ikonen/terug.png", wxART_GO_BACK},
-    {"../../../grafisch/ikonen/32x32/icons8-circled_right.png", "ikonen/vooruit.png", wxART_GO_FORWARD},
-    {"../../../grafisch/ikonen/32x32/icons8-greenplus.png", "ikonen/groenplus.png", wxART_PLUS},
-    {"../../../grafisch/ikonen/32x32/icons8-blueplus.png", "ikonen/blauwplus.png", wxART_PLUS},
-    {"../../../grafisch/ikonen/32x32/icons8-joyent.png", "ikonen/insluiten.png", wxART_ADD_BOOKMARK},
-    {"ikoon/cmakelogo_klein.png", "ikonen/uitvoeren.png", wxART_EXECUTABLE_FILE},
-    {"../../../grafisch/ikonen/32x32/icons8-language.png", "ikonen/taal.png", wxART_HELP_SETTINGS},
-    {"../../../grafisch/ikonen/Zelvano_zeerklein.jpg", "ikonen/zelvano_zeerklein.jpg", wxART_INFORMATION},
-    {"ikoon/Klavermol.jpg", "ikonen/klavermol.jpg", wxART_EXECUTABLE_FILE},
-    {"../../../grafisch/ikonen/32x32/icons8-customer_support.png", "ikonen/algemeen.png", wxART_HELP_SETTINGS},
-    {"../../../grafisch/ikonen/32x32/icons8-project_setup.png", "ikonen/projekt.png", wxART_FOLDER},
-    {"../../../grafisch/ikonen/32x32/icons8-books.png", "ikonen/boeken.png", wxART_HELP_BOOK},
-    {"../../../grafisch/ikonen/32x32/icons8-circuit.png", "ikonen/schakeling.png", wxART_EXECUTABLE_FILE},
+    {"../../../grafisch/ikonen/32x32/icons8-home.png", "ikonen/thuis.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-time_machine.png", "ikonen/tijdmachine.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-circled_left.png", "ikonen/terug.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-circled_right.png", "ikonen/vooruit.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-greenplus.png", "ikonen/groenplus.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-blueplus.png", "ikonen/blauwplus.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-joyent.png", "ikonen/insluiten.svg", 32},
+    {"ikoon/cmakelogo_klein.png", "ikonen/uitvoeren.svg", 48},
+    {"../../../grafisch/ikonen/32x32/icons8-language.png", "ikonen/taal.svg", 32},
+    {"../../../grafisch/ikonen/Zelvano_zeerklein.jpg", "ikonen/zelvano.svg", 24},
+    {"ikoon/Klavermol.jpg", "ikonen/klavermol.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-customer_support.png", "ikonen/algemeen.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-project_setup.png", "ikonen/projekt.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-books.png", "ikonen/boeken.svg", 32},
+    {"../../../grafisch/ikonen/32x32/icons8-circuit.png", "ikonen/schakeling.svg", 32},
 };
 
 const Afbeelding* zoek(const wxString& sleutel)
@@ -64,28 +65,41 @@ bool isBekendeAfbeelding(const wxString& sleutel)
     return zoek(sleutel) != nullptr;
 }
 
-wxBitmap geefAfbeelding(const wxString& sleutel, const wxSize& grootte)
+wxBitmapBundle geefBeeldBundel(const wxString& sleutel, const wxSize& grootte)
 {
     const Afbeelding* a = zoek(sleutel);
     if (a == nullptr)
-        return wxNullBitmap;
+        return wxBitmapBundle();
 
+    const wxSize maat = grootte.IsFullySpecified() ? grootte : wxSize(a->maat, a->maat);
     const wxString pad = geefDataMap() + wxFILE_SEP_PATH + a->bestand;
-    wxImage beeld;
-    if (wxFileName::FileExists(pad) && beeld.LoadFile(pad, wxBITMAP_TYPE_ANY) && beeld.IsOk()) {
-        if (grootte.IsFullySpecified() && beeld.GetSize() != grootte)
-            beeld.Rescale(grootte.x, grootte.y, wxIMAGE_QUALITY_HIGH);
-        return wxBitmap(beeld);
-    }
-    const wxSize maat = grootte.IsFullySpecified() ? grootte : wxSize(32, 32);
-    return wxArtProvider::GetBitmap(a->vervanging, wxART_OTHER, maat);
+    if (!wxFileName::FileExists(pad))
+        return wxBitmapBundle();
+    return wxBitmapBundle::FromSVGFile(pad, maat);
+}
+
+wxBitmapBundle geefSvgBundel(const unsigned char* svg, std::size_t lengte, const wxSize& grootte)
+{
+    // The renderer wants a NUL-terminated text.
+    const std::string tekst(reinterpret_cast<const char*>(svg), lengte);
+    return wxBitmapBundle::FromSVG(tekst.c_str(), grootte);
+}
+
+wxBitmap geefLijstBeeld(const wxBitmapBundle& bundel, const wxWindow* venster, const wxSize& maat)
+{
+    if (bundel.IsOk())
+        return bundel.GetBitmapFor(venster);
+    wxImage leeg(maat);
+    leeg.SetMaskColour(0, 0, 0);
+    return wxBitmap(leeg);
+}
+
+wxBitmap geefAfbeelding(const wxString& sleutel, const wxSize& grootte)
+{
+    return geefBeeldBundel(sleutel, grootte).GetBitmap(wxDefaultSize);
 }
 
 wxIcon geefIkoon(const wxString& sleutel, const wxSize& grootte)
 {
-    wxIcon ikoon;
-    const wxBitmap bitmap = geefAfbeelding(sleutel, grootte);
-    if (bitmap.IsOk())
-        ikoon.CopyFromBitmap(bitmap);
-    return ikoon;
+    return geefBeeldBundel(sleutel, grootte).GetIcon(wxDefaultSize);
 }

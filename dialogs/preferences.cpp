@@ -55,9 +55,10 @@ bool Preferences::Create(wxWindow* ouder, wxWindowID id, const wxString& titel, 
 
 void Preferences::CreateControls()
 {
+    // Rendered at the screen's scale: twice the pixels on a doubled screen.
     auto* beelden = new wxImageList(16, 16, true, WXSIZEOF(paginaBeelden));
     for (const char* naam : paginaBeelden)
-        beelden->Add(GetIconResource(naam));
+        beelden->Add(geefLijstBeeld(geefBeeldBundel(naam, beelden->GetSize()), GetBookCtrl(), beelden->GetSize()));
     GetBookCtrl()->AssignImageList(beelden);
 
     wxPanel* algemeen = voegPaginaToe(AlgemeenPaneelID, _("General"), 0);

@@ -1,30 +1,30 @@
 #include "dialogs/taalkeuzedialoog.h"
 
+#include "afbeeldingen.h"
 #include "ingebed.h"
 
 #include <wx/button.h>
 #include <wx/intl.h>
-#include <wx/mstream.h>
 #include <wx/panel.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
 #include <initializer_list>
 
-const unsigned char* const TaalKeuzeDialoog::NederlandVlag = NederlandVlag_png;
-const unsigned char* const TaalKeuzeDialoog::DuitslandVlag = DuitslandVlag_png;
-const unsigned char* const TaalKeuzeDialoog::GrootBritannieVlag = GrootBritannieVlag_png;
-const unsigned char* const TaalKeuzeDialoog::FrankrijkVlag = FrankrijkVlag_png;
-const unsigned char* const TaalKeuzeDialoog::SpanjeVlag = SpanjeVlag_png;
-const unsigned char* const TaalKeuzeDialoog::PortugalVlag = PortugalVlag_png;
-const unsigned char* const TaalKeuzeDialoog::IsraelVlag = IsraelVlag_png;
-const unsigned char* const TaalKeuzeDialoog::ItalieVlag = ItalieVlag_png;
-const unsigned char* const TaalKeuzeDialoog::ZwedenVlag = ZwedenVlag_png;
-const unsigned char* const TaalKeuzeDialoog::JapanVlag = JapanVlag_png;
-const unsigned char* const TaalKeuzeDialoog::ChinaVlag = ChinaVlag_png;
-const unsigned char* const TaalKeuzeDialoog::TaiwanVlag = TaiwanVlag_png;
-const unsigned char* const TaalKeuzeDialoog::KoreaVlag = KoreaVlag_png;
-const unsigned char* const TaalKeuzeDialoog::RuslandVlag = RuslandVlag_png;
+const unsigned char* const TaalKeuzeDialoog::NederlandVlag = NederlandVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::DuitslandVlag = DuitslandVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::GrootBritannieVlag = GrootBritannieVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::FrankrijkVlag = FrankrijkVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::SpanjeVlag = SpanjeVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::PortugalVlag = PortugalVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::IsraelVlag = IsraelVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::ItalieVlag = ItalieVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::ZwedenVlag = ZwedenVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::JapanVlag = JapanVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::ChinaVlag = ChinaVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::TaiwanVlag = TaiwanVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::KoreaVlag = KoreaVlag_svg;
+const unsigned char* const TaalKeuzeDialoog::RuslandVlag = RuslandVlag_svg;
 
 namespace {
 
@@ -128,18 +128,15 @@ void TaalKeuzeDialoog::initTalen()
         NederlandVlag, DuitslandVlag, GrootBritannieVlag, FrankrijkVlag, SpanjeVlag, PortugalVlag, IsraelVlag,
         ItalieVlag,    ZwedenVlag,    JapanVlag,          ChinaVlag,     TaiwanVlag, KoreaVlag,    RuslandVlag};
     static const std::size_t Lengten[] = {
-        NederlandVlag_png_lengte, DuitslandVlag_png_lengte, GrootBritannieVlag_png_lengte, FrankrijkVlag_png_lengte,
-        SpanjeVlag_png_lengte,    PortugalVlag_png_lengte,  IsraelVlag_png_lengte,         ItalieVlag_png_lengte,
-        ZwedenVlag_png_lengte,    JapanVlag_png_lengte,     ChinaVlag_png_lengte,          TaiwanVlag_png_lengte,
-        KoreaVlag_png_lengte,     RuslandVlag_png_lengte};
+        NederlandVlag_svg_lengte, DuitslandVlag_svg_lengte, GrootBritannieVlag_svg_lengte, FrankrijkVlag_svg_lengte,
+        SpanjeVlag_svg_lengte,    PortugalVlag_svg_lengte,  IsraelVlag_svg_lengte,         ItalieVlag_svg_lengte,
+        ZwedenVlag_svg_lengte,    JapanVlag_svg_lengte,     ChinaVlag_svg_lengte,          TaiwanVlag_svg_lengte,
+        KoreaVlag_svg_lengte,     RuslandVlag_svg_lengte};
 
-    for (std::size_t i = 0; i < WXSIZEOF(Vlaggen); ++i) {
-        wxMemoryInputStream stroom(Vlaggen[i], Lengten[i]);
-        wxImage beeld;
-        if (Lengten[i] == 0 || !beeld.LoadFile(stroom, wxBITMAP_TYPE_PNG))
-            beeld = wxImage(24, 24); // keeps the indices in step when a flag cannot be read
-        vlaggen->Add(wxBitmap(beeld));
-    }
+    // Rendered at the screen's scale: twice the pixels on a doubled screen.
+    const wxSize maat = vlaggen->GetSize();
+    for (std::size_t i = 0; i < WXSIZEOF(Vlaggen); ++i)
+        vlaggen->Add(geefLijstBeeld(geefSvgBundel(Vlaggen[i], Lengten[i], maat), lijst, maat));
     lijst->AssignImageList(vlaggen, wxIMAGE_LIST_NORMAL);
 }
 

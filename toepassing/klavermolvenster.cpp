@@ -163,9 +163,9 @@ bool KlavermolVenster::mapHeeftCMakeLists(const wxString& bestandPad)
     return !wxDir::FindFirst(map, "CMakeLists.txt", wxDIR_FILES).empty();
 }
 
-wxBitmap KlavermolVenster::GetBitmapResource(const wxString& naam)
+wxBitmapBundle KlavermolVenster::GetBitmapResource(const wxString& naam, const wxSize& grootte)
 {
-    return geefAfbeelding(naam);
+    return geefBeeldBundel(naam, grootte);
 }
 
 wxIcon KlavermolVenster::GetIconResource(const wxString& naam)

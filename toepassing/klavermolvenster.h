@@ -9,6 +9,7 @@
 #include "kern/sjablonen.h"
 
 #include <wx/arrstr.h>
+#include <wx/bmpbndl.h>
 #include <wx/filehistory.h>
 #include <wx/frame.h>
 
@@ -81,7 +82,7 @@ public:
                 const wxSize& grootte, long stijl);
     void CreateControls();
 
-    wxBitmap GetBitmapResource(const wxString& naam);
+    wxBitmapBundle GetBitmapResource(const wxString& naam, const wxSize& grootte = wxDefaultSize);
     wxIcon GetIconResource(const wxString& naam);
 
     // Source search and filters.

@@ -44,6 +44,6 @@ void KlavermolVenster::OnABOUTClick(wxCommandEvent&)
 
     wxArrayString credits;
     credits.Add(_("The CMake Project (https://cmake.org)"));
-    credits.Add(_("Klavermol icons: drawn for this programme, every pixel our own (https://www.zelvano.nl/klavermol)"));
+    credits.Add(_("Klavermol icons: drawn for this programme; flags from the public-domain set of Linux Mint (https://www.zelvano.nl/klavermol)"));
     wxGetApp().toonCopyright("https://www.zelvano.nl", ikoon, credits);
 }

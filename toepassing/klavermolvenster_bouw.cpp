@@ -8,7 +8,6 @@
 #include <wx/checklst.h>
 #include <wx/choice.h>
 #include <wx/filepicker.h>
-#include <wx/image.h>
 #include <wx/menu.h>
 #include <wx/notebook.h>
 #include <wx/panel.h>
@@ -24,24 +23,20 @@ namespace {
 
 const char* const thuisBeeld = "../../../grafisch/ikonen/32x32/icons8-home.png";
 
-wxBitmap alsMenuBeeld(const wxBitmap& bitmap)
-{
-    if (!bitmap.IsOk() || bitmap.GetSize() == wxSize(16, 16))
-        return bitmap;
-    return wxBitmap(bitmap.ConvertToImage().Rescale(16, 16, wxIMAGE_QUALITY_HIGH));
-}
+// Menu pictures are half the size of the button pictures.
+const wxSize menuBeeld(16, 16);
 
-wxMenuItem* voegMenuItemToe(wxMenu* menu, int id, const wxString& label, const wxBitmap& beeld = wxNullBitmap,
+wxMenuItem* voegMenuItemToe(wxMenu* menu, int id, const wxString& label, const wxBitmapBundle& beeld = {},
                             wxItemKind soort = wxITEM_NORMAL, const wxString& hulp = wxString())
 {
     auto* item = new wxMenuItem(menu, id, label, hulp, soort);
     if (beeld.IsOk())
-        item->SetBitmap(alsMenuBeeld(beeld));
+        item->SetBitmap(beeld);
     menu->Append(item);
     return item;
 }
 
-wxBitmapButton* maakBeeldKnop(wxWindow* ouder, int id, const wxBitmap& beeld, const wxString& tip = wxString())
+wxBitmapButton* maakBeeldKnop(wxWindow* ouder, int id, const wxBitmapBundle& beeld, const wxString& tip = wxString())
 {
     auto* knop = new wxBitmapButton(ouder, id, beeld, wxDefaultPosition, wxDefaultSize, wxBU_AUTODRAW);
     if (!tip.empty())
@@ -69,14 +64,14 @@ void KlavermolVenster::CreateControls()
     auto* algemeen = new wxMenu;
     voegMenuItemToe(algemeen, wxID_PREFERENCES, _("Preferences\tCtrl+,"));
     voegMenuItemToe(algemeen, ZetTaalID, _("Set language"),
-                    GetBitmapResource("../../../grafisch/ikonen/32x32/icons8-language.png"));
+                    GetBitmapResource("../../../grafisch/ikonen/32x32/icons8-language.png", menuBeeld));
     voegMenuItemToe(algemeen, wxID_ABOUT, _("About this programme"),
-                    GetBitmapResource("../../../grafisch/ikonen/Zelvano_zeerklein.jpg"));
+                    GetBitmapResource("../../../grafisch/ikonen/Zelvano_zeerklein.jpg", menuBeeld));
     voegMenuItemToe(algemeen, wxID_EXIT, _("Quit\tCtrl+Q"));
     menuBalk->Append(algemeen, _("General"));
 
     auto* navigatie = new wxMenu;
-    voegMenuItemToe(navigatie, wxID_HOME, _("Go home\tCtrl+h"), GetBitmapResource(thuisBeeld));
+    voegMenuItemToe(navigatie, wxID_HOME, _("Go home\tCtrl+h"), GetBitmapResource(thuisBeeld, menuBeeld));
     voegMenuItemToe(navigatie, wxID_MORE, _("Go somewhere else\tCtrl+g"));
     menuBalk->Append(navigatie, _("Navigation"));
 

@@ -14,17 +14,21 @@ cmake --install "$bouw" --prefix "$prefix" >/dev/null
 
 fout=0
 controleer() { if ! "$@"; then echo "FAILED: $*"; fout=1; fi; }
+is_png() { file "$1" | grep -q "PNG image data, $2,"; }
 for taal in de nl en; do
     for domein in Klavermol Zelvanodesktop; do
         controleer test -f "$prefix/share/Zelvano/Klavermol/locale/$taal/LC_MESSAGES/$domein.mo"
     done
 done
-for beeld in thuis.png uitvoeren.png klavermol.jpg zelvano_zeerklein.jpg; do
+for beeld in thuis.svg uitvoeren.svg klavermol.svg zelvano.svg; do
     controleer test -f "$prefix/share/klavermol/ikonen/$beeld"
 done
 controleer test -x "$prefix/bin/klavermol"
 controleer test -x "$prefix/bin/klavermol-cli"
-controleer test -f "$prefix/share/icons/hicolor/48x48/apps/klavermol.png"
+controleer test -f "$prefix/share/icons/hicolor/scalable/apps/klavermol.svg"
+for n in 16 32 48 64 128 256; do
+    controleer is_png "$prefix/share/icons/hicolor/${n}x${n}/apps/klavermol.png" "$n x $n"
+done
 controleer desktop-file-validate "$prefix/share/applications/nl.zelvano.Klavermol.desktop"
 controleer appstreamcli validate --no-net "$prefix/share/metainfo/nl.zelvano.Klavermol.metainfo.xml"
 

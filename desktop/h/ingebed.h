@@ -1,5 +1,6 @@
 #pragma once
-// Images compiled into the program (generated and embedded by the build, see data/).
+// Images compiled into the program (rendered or readied and embedded by the
+// build, see data/): the splash JPEG, the about box's PNG and the flags' SVG.
 #include <cstddef>
 
 #define KLAVERMOL_INGEBED(naam) \
@@ -8,19 +9,19 @@
 
 KLAVERMOL_INGEBED(Klavermol_jpg)
 KLAVERMOL_INGEBED(Zelvano_klein_png)
-KLAVERMOL_INGEBED(NederlandVlag_png)
-KLAVERMOL_INGEBED(DuitslandVlag_png)
-KLAVERMOL_INGEBED(GrootBritannieVlag_png)
-KLAVERMOL_INGEBED(FrankrijkVlag_png)
-KLAVERMOL_INGEBED(SpanjeVlag_png)
-KLAVERMOL_INGEBED(PortugalVlag_png)
-KLAVERMOL_INGEBED(IsraelVlag_png)
-KLAVERMOL_INGEBED(ItalieVlag_png)
-KLAVERMOL_INGEBED(ZwedenVlag_png)
-KLAVERMOL_INGEBED(JapanVlag_png)
-KLAVERMOL_INGEBED(ChinaVlag_png)
-KLAVERMOL_INGEBED(TaiwanVlag_png)
-KLAVERMOL_INGEBED(KoreaVlag_png)
-KLAVERMOL_INGEBED(RuslandVlag_png)
+KLAVERMOL_INGEBED(NederlandVlag_svg)
+KLAVERMOL_INGEBED(DuitslandVlag_svg)
+KLAVERMOL_INGEBED(GrootBritannieVlag_svg)
+KLAVERMOL_INGEBED(FrankrijkVlag_svg)
+KLAVERMOL_INGEBED(SpanjeVlag_svg)
+KLAVERMOL_INGEBED(PortugalVlag_svg)
+KLAVERMOL_INGEBED(IsraelVlag_svg)
+KLAVERMOL_INGEBED(ItalieVlag_svg)
+KLAVERMOL_INGEBED(ZwedenVlag_svg)
+KLAVERMOL_INGEBED(JapanVlag_svg)
+KLAVERMOL_INGEBED(ChinaVlag_svg)
+KLAVERMOL_INGEBED(TaiwanVlag_svg)
+KLAVERMOL_INGEBED(KoreaVlag_svg)
+KLAVERMOL_INGEBED(RuslandVlag_svg)
 
 #undef KLAVERMOL_INGEBED

@@ -163,6 +163,13 @@ TEST_F(Taal, TheDialogOffersTheLanguagesInOrderWithFlags)
         EXPECT_EQ(item.GetText(), regels[i].naam);
         EXPECT_EQ(item.GetImage(), regels[i].vlag);
     }
+    // every flag lies centred on its square: see-through above, solid in the middle
+    ASSERT_EQ(dialoog.geefVlaggen()->GetImageCount(), 14);
+    for (int i = 0; i < 14; ++i) {
+        const wxImage vlag = dialoog.geefVlaggen()->GetBitmap(i).ConvertToImage();
+        EXPECT_EQ(vlag.GetSize(), wxSize(24, 24)) << i;
+        EXPECT_TRUE(vlag.IsTransparent(12, 1) && !vlag.IsTransparent(12, 12)) << i;
+    }
     wxWindow* ok = dialoog.FindWindow(wxID_OK);
     dialoog.UpdateWindowUI(wxUPDATE_UI_RECURSE);
     EXPECT_EQ(dialoog.geefTaal(), wxLANGUAGE_UNKNOWN);

@@ -2,6 +2,8 @@
 // store, what it writes back, and which commands each state enables.
 #include "programma.h"
 
+#include <algorithm>
+
 #include <wx/bmpbuttn.h>
 #include <wx/checkbox.h>
 #include <wx/checklst.h>
@@ -76,6 +78,27 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
     for (int id : std::initializer_list<int>{wxID_HOME, VorigeLokatieID, wxID_BACKWARD, wxID_FORWARD, wxID_ADD, VoegToeCMakeSubDirID,
                    VoegToeCMakeIncludeID, wxID_APPLY})
         EXPECT_TRUE(static_cast<wxBitmapButton*>(v.FindWindow(id))->GetBitmap().IsOk()) << id;
+}
+
+// Every picture is drawn from its file at its own size: see-through at the
+// corner and solid over a good part of its square.
+TEST_F(Venster, EveryPictureIsDrawnAtItsOwnSize)
+{
+    start();
+    const wxString p = "../../../grafisch/ikonen/", q = p + "32x32/icons8-";
+    const std::pair<wxString, int> beelden[] = {
+        {q + "home.png", 32}, {q + "time_machine.png", 32}, {q + "circled_left.png", 32},
+        {q + "circled_right.png", 32}, {q + "greenplus.png", 32}, {q + "blueplus.png", 32}, {q + "joyent.png", 32},
+        {"ikoon/cmakelogo_klein.png", 48}, {q + "language.png", 32}, {p + "Zelvano_zeerklein.jpg", 24},
+        {"ikoon/Klavermol.jpg", 32}, {q + "customer_support.png", 32}, {q + "project_setup.png", 32},
+        {q + "books.png", 32}, {q + "circuit.png", 32}};
+    for (const auto& [naam, maat] : beelden) {
+        const wxImage beeld = venster().GetBitmapResource(naam).GetBitmap(wxDefaultSize).ConvertToImage();
+        ASSERT_TRUE(beeld.IsOk() && beeld.HasAlpha() && beeld.GetSize() == wxSize(maat, maat)) << naam;
+        const unsigned char* alfa = beeld.GetAlpha();
+        const auto dekkend = std::count_if(alfa, alfa + maat * maat, [](int a) { return a > 200; });
+        EXPECT_TRUE(beeld.GetAlpha(0, 0) == 0 && dekkend > maat * maat / 4) << naam;
+    }
 }
 
 TEST_F(Venster, APreWrittenStoreIsRestoredIntoEveryControl)

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <fstream>
 #include <iterator>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <unordered_map>
@@ -55,9 +56,27 @@ bool isGeldig(const wxString& tekst, const Bereik& bereik)
     return waarde >= bereik.kleinste && waarde <= bereik.grootste;
 }
 
-bool isUtf8(const std::string& regel)
+// Well-formed UTF-8: no stray or missing continuation bytes, no overlong
+// forms, no surrogates, nothing above U+10FFFF.
+bool isUtf8(std::string_view regel)
 {
-    return regel.empty() || !wxString::FromUTF8(regel.data(), regel.size()).empty();
+    for (std::size_t i = 0; i < regel.size();) {
+        const unsigned char b = static_cast<unsigned char>(regel[i]);
+        const std::size_t lengte = b < 0x80 ? 1 : b >= 0xC2 && b <= 0xDF ? 2 : b >= 0xE0 && b <= 0xEF ? 3
+                                 : b >= 0xF0 && b <= 0xF4                 ? 4
+                                                                          : 0;
+        if (lengte == 0 || i + lengte > regel.size())
+            return false;
+        const unsigned char tweede = static_cast<unsigned char>(regel[i + (lengte > 1)]);
+        if ((b == 0xE0 && tweede < 0xA0) || (b == 0xED && tweede > 0x9F) || (b == 0xF0 && tweede < 0x90)
+            || (b == 0xF4 && tweede > 0x8F))
+            return false;
+        for (std::size_t k = 1; k < lengte; ++k)
+            if ((static_cast<unsigned char>(regel[i + k]) & 0xC0) != 0x80)
+                return false;
+        i += lengte;
+    }
+    return true;
 }
 
 // The file's lines as the store can take them without complaint: each group
@@ -67,28 +86,28 @@ std::string maakSchoon(const std::string& tekst, bool& beschadigd)
 {
     struct Groep
     {
-        std::vector<std::string> regels;
-        std::unordered_map<std::string, std::size_t> sleutels;
+        std::vector<std::string_view> regels;
+        std::unordered_map<std::string_view, std::size_t> sleutels;
     };
     std::vector<Groep> groepen(1); // the first holds the lines before any header
-    std::unordered_map<std::string, std::size_t> groepNummers;
+    std::unordered_map<std::string_view, std::size_t> groepNummers;
     std::size_t huidig = 0;
     std::size_t begin = tekst.compare(0, 3, "\xEF\xBB\xBF") == 0 ? 3 : 0;
     while (begin < tekst.size()) {
         std::size_t einde = tekst.find('\n', begin);
         if (einde == std::string::npos)
             einde = tekst.size();
-        std::string regel = tekst.substr(begin, einde - begin);
+        std::string_view regel(tekst.data() + begin, einde - begin);
         begin = einde + 1;
         if (!regel.empty() && regel.back() == '\r')
-            regel.pop_back();
+            regel.remove_suffix(1);
         if (!isUtf8(regel)) {
             beschadigd = true;
             continue;
         }
         const std::size_t eerste = regel.find_first_not_of(" \t");
         if (eerste != std::string::npos && regel[eerste] == '[') {
-            const std::string naam = regel.substr(eerste, regel.find_last_not_of(" \t") + 1 - eerste);
+            const std::string_view naam = regel.substr(eerste, regel.find_last_not_of(" \t") + 1 - eerste);
             const auto [plaats, nieuw] = groepNummers.emplace(naam, groepen.size());
             if (nieuw) {
                 groepen.emplace_back();
@@ -100,10 +119,10 @@ std::string maakSchoon(const std::string& tekst, bool& beschadigd)
         }
         Groep& groep = groepen[huidig];
         if (eerste != std::string::npos && regel[eerste] != ';' && regel[eerste] != '#') {
-            std::string sleutel = regel.substr(eerste, regel.find('=') == std::string::npos
-                                                           ? std::string::npos
-                                                           : regel.find('=') - eerste);
-            sleutel.erase(sleutel.find_last_not_of(" \t") + 1);
+            std::string_view sleutel = regel.substr(eerste, regel.find('=') == std::string_view::npos
+                                                                ? std::string_view::npos
+                                                                : regel.find('=') - eerste);
+            sleutel = sleutel.substr(0, sleutel.find_last_not_of(" \t") + 1);
             const auto [plaats, nieuw] = groep.sleutels.emplace(sleutel, groep.regels.size());
             if (!nieuw) {
                 groep.regels[plaats->second] = regel;
@@ -115,8 +134,8 @@ std::string maakSchoon(const std::string& tekst, bool& beschadigd)
     }
     std::string schoon;
     for (const Groep& groep : groepen)
-        for (const std::string& regel : groep.regels)
-            schoon += regel + "\n";
+        for (const std::string_view regel : groep.regels)
+            (schoon += regel) += '\n';
     return schoon;
 }
 

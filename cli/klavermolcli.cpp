@@ -160,7 +160,11 @@ bool leesSjablonen(const wxCmdLineParser& parser, kern::Sjablonen& sjablonen)
             return faal("cannot read the settings file " + bestand);
         pad = kern::geefPadBytes(bestand);
     }
-    const std::unique_ptr<wxFileConfig> config = kern::InstellingenBestand(pad).lees();
+    kern::InstellingenBestand instellingen(pad);
+    const std::unique_ptr<wxFileConfig> config = instellingen.lees();
+    if (instellingen.isBeschadigd())
+        meld("klavermol-cli: the settings file " + instellingen.geefPad()
+             + " could not be read completely; the settings that could not be read start from their defaults.");
     sjablonen = kern::leesSjablonen(*config);
     return true;
 }

@@ -12,6 +12,8 @@
 #include <fstream>
 #include <iterator>
 #include <string_view>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <unordered_map>
@@ -234,8 +236,33 @@ bool InstellingenBestand::bewaarKopie(wxString* kopie) const
     return leesBestand(pad, inhoud) == 0 && vervangBestand(pad + ".bak", inhoud);
 }
 
+// Holds the settings file's directory locked against other instances that
+// read, merge and write the file at the same moment.
+class MapSlot
+{
+public:
+    explicit MapSlot(const std::string& pad)
+        : fd(::open(pad.substr(0, pad.rfind('/') + 1).append(".").c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+        if (fd >= 0)
+            while (::flock(fd, LOCK_EX) != 0 && errno == EINTR) {
+            }
+    }
+    ~MapSlot()
+    {
+        if (fd >= 0)
+            ::close(fd);
+    }
+    MapSlot(const MapSlot&) = delete;
+    MapSlot& operator=(const MapSlot&) = delete;
+
+private:
+    int fd;
+};
+
 InstellingenBestand::Uitslag InstellingenBestand::bewaar(wxFileConfig& config, wxString* reden)
 {
+    const MapSlot slot(pad);
     struct stat st;
     if (::stat(pad.c_str(), &st) == 0 && (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0)
         return AlleenLezen;

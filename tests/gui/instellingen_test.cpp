@@ -55,7 +55,9 @@ TEST_F(Instellingen, ADamagedFileLoadsWithoutAssertionsAndIsKept)
     EXPECT_EQ(venster().vindBestandenInDirs->GetPath(), map);
     EXPECT_FALSE(venster().voegCBestandenToe.boolean());
     EXPECT_EQ(app().geefTaal(), wxLocale::GetSystemLanguage());
-    EXPECT_EQ(logMet(wxLOG_Warning, "The settings file " + instellingenPad()).size(), 1u);
+    const std::vector<LogRegel> waarschuwingen = logRegels(wxLOG_Warning);
+    ASSERT_EQ(waarschuwingen.size(), 1u);
+    EXPECT_TRUE(waarschuwingen[0].tekst.StartsWith("The settings file " + instellingenPad())) << waarschuwingen[0].tekst;
     std::ifstream bak((instellingenPad() + ".bak").ToStdString(), std::ios::binary);
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(bak), {}), kapot);
     stop();

@@ -162,6 +162,37 @@ TEST_F(Bestand, AKillDuringASaveNeverLosesTheFile)
     }
 }
 
+// Instances that exit at the same moment each keep their own change.
+TEST_F(Bestand, InstancesSavingTogetherKeepEachOthersChanges)
+{
+    const std::string pad = (map + "/.Klavermol").ToStdString();
+    for (int ronde = 0; ronde < 30; ++ronde) {
+        int start[2];
+        ASSERT_EQ(::pipe(start), 0);
+        pid_t kinderen[2];
+        for (int k = 0; k < 2; ++k)
+            if ((kinderen[k] = ::fork()) == 0) {
+                char c;
+                ::close(start[1]);
+                ::read(start[0], &c, 1); // all go at once when the pipe closes
+                kern::InstellingenBestand bestand(pad);
+                const auto config = bestand.lees();
+                config->Write(wxString::Format("/T/kind%d", k), static_cast<long>(ronde));
+                ::_exit(bestand.bewaar(*config) == kern::InstellingenBestand::Geschreven ? 0 : 1);
+            }
+        ::close(start[0]);
+        ::close(start[1]);
+        for (const pid_t kind : kinderen) {
+            int status = 0;
+            ::waitpid(kind, &status, 0);
+            ASSERT_EQ(status, 0) << "round " << ronde;
+        }
+        const auto config = kern::InstellingenBestand(pad).lees();
+        for (const char* sleutel : {"/T/kind0", "/T/kind1"})
+            ASSERT_EQ(config->ReadLong(sleutel, -1), ronde) << sleutel << " in round " << ronde;
+    }
+}
+
 // The settings file lives in HOME byte for byte, whatever the locale; a
 // relative HOME is taken from the working directory.
 TEST(InstellingenPad, HomeAsTheFileSystemSpellsIt)

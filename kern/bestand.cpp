@@ -227,8 +227,8 @@ int vervangInPlaats(const std::string& map, const std::string& doel, const std::
         return fout;
     }
     // Room for the whole text first, so that a full disk fails before any byte changes.
-    fout = inhoud.size() > oud.size() ? ::posix_fallocate(fd, 0, static_cast<off_t>(inhoud.size())) : 0;
-    if (fout == EOPNOTSUPP || fout == EINVAL)
+    fout = ::fallocate(fd, FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(inhoud.size())) == 0 ? 0 : errno;
+    if (fout == EOPNOTSUPP || fout == ENOSYS || fout == EINVAL)
         fout = 0;
     if (fout == 0)
         fout = schrijfAlles(fd, inhoud);

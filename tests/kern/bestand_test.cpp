@@ -111,6 +111,12 @@ TEST_F(Bestand, TheUsersFileKeepsItsPlaceLinksOwnerAndMode)
     EXPECT_EQ(st.st_mode & 07777, 0646u);
     if (::geteuid() == 0)
         EXPECT_EQ(st.st_uid * 100000 + st.st_gid, 65534u * 100000 + 65534u);
+    {
+        VolleSchijf vol; // in place too, a failed write leaves the old text
+        EXPECT_FALSE(kern::schrijfTekstBestand(doel, wxString('x', 100000)));
+    }
+    EXPECT_EQ(lees(), "via de link");
+    EXPECT_EQ(inhoud().size(), 3u);
 
     // a writable file in a directory that is not writable
     ::unlink((m + "/tweede").c_str());

@@ -23,7 +23,8 @@ namespace kern {
 
 namespace {
 
-// What a stored number must be for its reader to take it.
+// What a stored number must be for its reader to take it. The selections
+// of the main window are left to the window, which applies them as stored.
 struct Bereik
 {
     const char* sleutel; // absolute
@@ -37,10 +38,6 @@ const Bereik bereiken[] = {
     {instelling::ToonHulpToolTipsPad, 0, 1},
     {instelling::EigenHerstartPad, 0, 1},
     {instelling::TaalGekozenPad, 0, 1},
-    {"/Configuratie/Projektsoort", 0, 2},
-    {"/Configuratie/Projekttype", 0, 1},
-    {"/Configuratie/Biebtype", 0, 2},
-    {"/Configuratie/VoegToeMethode", 0, 1},
     {"/Configuratie/AutoDirToewijzing", 0, 1},
     {"/Configuratie/VoegCBestandenToe", 0, 1},
     {"/Configuratie/VoegCPPBestandenToe", 0, 1},

@@ -3,6 +3,8 @@
 // main window's Add does, and the text is the one Execute would show.
 #include "kern/bestand.h"
 #include "kern/bronzoeker.h"
+#include "kern/instellingenbestand.h"
+#include "kern/namen.h"
 #include "kern/generator.h"
 #include "kern/selektie.h"
 #include "kern/tekst.h"
@@ -12,11 +14,13 @@
 #include <wx/filename.h>
 #include <wx/init.h>
 #include <wx/log.h>
-#include <wx/wfstream.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <memory>
 #include <set>
+#include <sys/stat.h>
 
 namespace {
 
@@ -126,20 +130,41 @@ wxString absoluteMap(const wxString& map)
     return f.GetPath(wxPATH_GET_VOLUME);
 }
 
+// False (reported) for a path that names something other than a regular
+// file, such as a FIFO, which would block the read.
+bool isGeenSpeciaalBestand(const wxString& pad)
+{
+    struct stat st;
+    return ::stat(kern::geefPadBytes(pad).c_str(), &st) != 0 || S_ISREG(st.st_mode)
+        || faal("not a regular file: " + pad);
+}
+
+// Writes to standard output; a closed or full one is reported.
+bool schrijfUit(const wxString& tekst)
+{
+    const wxScopedCharBuffer utf8 = tekst.utf8_str();
+    errno = 0;
+    if (std::fwrite(utf8.data(), 1, utf8.length(), stdout) == utf8.length() && std::fflush(stdout) == 0)
+        return true;
+    return faal("cannot write to standard output: " + wxSysErrorMsgStr(static_cast<unsigned long>(errno ? errno : EIO)));
+}
+
 bool leesSjablonen(const wxCmdLineParser& parser, kern::Sjablonen& sjablonen)
 {
     wxString bestand;
-    std::unique_ptr<wxFileConfig> config;
+    std::string pad = kern::geefInstellingenPad("Klavermol");
     if (parser.Found("settings", &bestand)) {
+        if (!isGeenSpeciaalBestand(bestand))
+            return false;
         if (!wxFileName::IsFileReadable(bestand))
             return faal("cannot read the settings file " + bestand);
-        wxFileInputStream stroom(bestand);
-        config = std::make_unique<wxFileConfig>(stroom);
-    } else {
-        config = std::make_unique<wxFileConfig>("Klavermol", "Zelvano", wxString(), wxString(), wxCONFIG_USE_LOCAL_FILE);
+        pad = kern::geefPadBytes(bestand);
     }
-    config->SetExpandEnvVars(false);
-    config->DisableAutoSave();
+    kern::InstellingenBestand instellingen(pad);
+    const std::unique_ptr<wxFileConfig> config = instellingen.lees();
+    if (instellingen.isBeschadigd())
+        meld("klavermol-cli: the settings file " + instellingen.geefPad()
+             + " could not be read completely; the settings that could not be read start from their defaults.");
     sjablonen = kern::leesSjablonen(*config);
     return true;
 }
@@ -164,6 +189,8 @@ public:
 
     bool voegBestandToe(const wxString& pad)
     {
+        if (!isGeenSpeciaalBestand(pad))
+            return false;
         if (!wxFileName::FileExists(pad))
             return faal("no such file: " + pad);
         voegBronnenToe(wxArrayString(1, absoluut(pad)));
@@ -194,6 +221,8 @@ public:
     {
         if (!pad.EndsWith(".cmake"))
             return faal("not a CMake include file (*.cmake): " + pad);
+        if (!isGeenSpeciaalBestand(pad))
+            return false;
         if (!wxFileName::FileExists(pad))
             return faal("no such file: " + pad);
         const wxString vol = absoluut(pad);
@@ -305,7 +334,14 @@ int voerUit(const wxCmdLineParser& parser)
 {
     kern::GeneratorInvoer invoer;
     int modus = 0;
-    if (!leesKeuzes(parser, invoer, modus) || !verzamel(parser, modus, invoer)
+    if (!leesKeuzes(parser, invoer, modus))
+        return Fout;
+    const wxString naamFout = kern::geefNaamFout(invoer.soort, invoer.naam);
+    if (!naamFout.empty()) {
+        faal(naamFout);
+        return VerkeerdGebruik;
+    }
+    if (!verzamel(parser, modus, invoer)
         || !leesSjablonen(parser, invoer.sjablonen))
         return Fout;
     invoer.datum = kern::geefGeneratieDatum();
@@ -317,16 +353,14 @@ int voerUit(const wxCmdLineParser& parser)
     if (FoutTeller::aantal > foutenVoor)
         return Fout; // reported already; nothing is printed or written
 
-    if (!heeftSchakelaar(parser, "write")) {
-        const wxScopedCharBuffer utf8 = tekst.utf8_str();
-        std::fwrite(utf8.data(), 1, utf8.length(), stdout);
-        return std::fflush(stdout) == 0 ? Gelukt : Fout;
-    }
+    if (!heeftSchakelaar(parser, "write"))
+        return schrijfUit(tekst) ? Gelukt : Fout;
     const wxString bestandNaam = invoer.soort == kern::SoortInclude ? invoer.naam + ".cmake" : "CMakeLists.txt";
     const wxString pad = wxFileName(invoer.uitvoerDir, bestandNaam).GetFullPath();
-    if (kern::schrijfTekstBestand(pad, tekst))
+    wxString reden;
+    if (kern::schrijfTekstBestand(pad, tekst, &reden))
         return Gelukt;
-    faal("Failed to open output file " + pad + " for writing to.");
+    faal("Failed to open output file " + pad + " for writing to.\n" + reden);
     return Fout;
 }
 
@@ -334,6 +368,10 @@ int voerUit(const wxCmdLineParser& parser)
 
 int main(int argc, char** argv)
 {
+    // A closed standard output is held by a descriptor that refuses writes,
+    // so that no file opened later takes its place.
+    if (::fcntl(STDOUT_FILENO, F_GETFD) < 0 && errno == EBADF)
+        ::dup2(::open("/dev/null", O_RDONLY | O_CLOEXEC), STDOUT_FILENO);
     wxInitializer initialiseer(argc, argv);
     if (!initialiseer.IsOk()) {
         std::fputs("klavermol-cli: the toolkit could not be initialised\n", stderr);
@@ -346,7 +384,7 @@ int main(int argc, char** argv)
     // stderr, or stands alone on stdout when it was asked for.
     switch (parser.Parse(false)) {
     case 0: return voerUit(parser);
-    case -1: meld(parser.GetUsageString().Trim(), stdout); return Gelukt;
+    case -1: return schrijfUit(parser.GetUsageString().Trim() + "\n") ? Gelukt : Fout;
     default: meld(parser.GetUsageString().Trim()); return VerkeerdGebruik;
     }
 }

@@ -3,7 +3,6 @@
 #include "desktopApp.h"
 #include "kern/instellingen.h"
 #include "kern/tekst.h"
-#include "logVanger.h"
 
 #include <wx/datetime.h>
 #include <wx/filefn.h>
@@ -78,22 +77,16 @@ DesktopAppBasis::~DesktopAppBasis()
 
 void DesktopAppBasis::openInstellingen()
 {
-    bool leesbaar;
-    {
-        LogVanger vanger;
-        config = std::make_unique<wxFileConfig>(applikatieNaam, DesktopApp::bedrijfsNaam, wxString(), wxString(),
-                                                wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE, wxConvAuto());
-        leesbaar = !vanger.heeftProblemen();
-    }
-    // Values such as "${SRCS}" are CMake text, never environment variables.
-    config->SetExpandEnvVars(false);
-    if (leesbaar)
+    // The path is taken as the file system spells it, before any locale is set.
+    instellingenBestand = std::make_unique<kern::InstellingenBestand>(kern::geefInstellingenPad(applikatieNaam));
+    config = instellingenBestand->lees();
+    if (!instellingenBestand->isBeschadigd())
         return;
 
     // What could not be read would be lost at the next write: keep the file.
-    const wxString pad = wxFileConfig::GetLocalFileName(applikatieNaam);
-    const wxString kopie = pad + ".bak";
-    if (wxCopyFile(pad, kopie, true))
+    const wxString pad = instellingenBestand->geefPad();
+    wxString kopie;
+    if (instellingenBestand->bewaarKopie(&kopie))
         wxLogWarning(_("The settings file %s could not be read completely; the settings that could not be read "
                        "start from their defaults. The file was kept as %s."),
                      pad, kopie);
@@ -106,16 +99,18 @@ void DesktopAppBasis::openInstellingen()
 bool DesktopAppBasis::bewaarInstellingen()
 {
     static bool gemeld = false;
-    bool gelukt;
-    {
-        LogVanger vanger;
-        gelukt = config->Flush() && !vanger.heeftProblemen();
-    }
-    if (!gelukt && !gemeld) {
-        gemeld = true;
-        wxLogError(_("Your settings could not be written to %s."), wxFileConfig::GetLocalFileName(applikatieNaam));
-    }
-    return gelukt;
+    wxString reden;
+    const kern::InstellingenBestand::Uitslag uitslag = instellingenBestand->bewaar(*config, &reden);
+    if (uitslag == kern::InstellingenBestand::Geschreven || gemeld)
+        return uitslag == kern::InstellingenBestand::Geschreven;
+    gemeld = true;
+    const wxString pad = instellingenBestand->geefPad();
+    if (uitslag == kern::InstellingenBestand::AlleenLezen)
+        wxLogWarning(_("The settings file %s is read-only; your settings were not written to it."), pad);
+    else
+        wxLogError(_("Your settings could not be written to %s.") + (reden.empty() ? wxString() : "\n" + reden),
+                   pad);
+    return false;
 }
 
 int DesktopAppBasis::OnExit()

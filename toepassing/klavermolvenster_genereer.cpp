@@ -2,6 +2,7 @@
 // the finished text in one call.
 #include "toepassing/klavermolvenster.h"
 
+#include "kern/namen.h"
 #include "kern/tekst.h"
 
 #include <wx/checklst.h>
@@ -41,6 +42,11 @@ kern::GeneratorInvoer KlavermolVenster::geefGeneratorInvoer() const
 
 void KlavermolVenster::OnGenerateCMakeHandler(wxCommandEvent&)
 {
+    const wxString naamFout = kern::geefNaamFout(uitvoerSoortKeuze->GetSelection(), projektLibIncludeNaam->GetValue());
+    if (!naamFout.empty()) {
+        wxLogError("%s", naamFout);
+        return;
+    }
     wxBusyCursor bezig;
     uitvoerTekst->Clear();
     werklijsten.leeg();

@@ -140,6 +140,7 @@ void KlavermolVenster::SlaOpCMakeHandler(wxCommandEvent&)
     wxString pad = dialoog.GetPath();
     if (pad.empty())
         pad = wxFileName(dialoog.GetDirectory(), dialoog.GetFilename()).GetFullPath();
-    if (!kern::schrijfTekstBestand(pad, uitvoerTekst->GetValue()))
-        wxLogError(wxString(_("Failed to open output file ")) + pad + _(" for writing to."));
+    wxString reden;
+    if (!kern::schrijfTekstBestand(pad, uitvoerTekst->GetValue(), &reden))
+        wxLogError(wxString(_("Failed to open output file ")) + pad + _(" for writing to.") + "\n" + reden);
 }

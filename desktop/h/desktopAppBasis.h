@@ -2,6 +2,7 @@
 // Toolkit-independent services of a desktop application: the settings
 // store, locale and catalogues, platform information, the executable path,
 // restart, version and platform description.
+#include "kern/instellingenbestand.h"
 #include "support/platform.h"
 
 #include <wx/arrstr.h>
@@ -83,5 +84,6 @@ protected:
 
 private:
     void openInstellingen();
+    std::unique_ptr<kern::InstellingenBestand> instellingenBestand;
     wxArrayString geefTaalPaden() const;
 };

@@ -252,7 +252,7 @@ TEST_F(Uitvoer, SaveFaultsShowTheErrorAndKeepTheOldFilesAndTheText)
     std::ofstream(doel.ToStdString()) << "oud";
     const auto bewaar = [&](const wxString& pad) {
         wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
-        EXPECT_TRUE(heeftLog(wxLOG_Error, "Failed to open output file " + pad + " for writing to.")) << pad;
+        EXPECT_EQ(logMet(wxLOG_Error, "Failed to open output file " + pad + " for writing to.\n").size(), 1u) << pad;
     };
     bewaar(thuis + "/bestaat/niet/CMakeLists.txt");
     bewaar(alleen);

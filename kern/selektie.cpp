@@ -7,13 +7,13 @@ namespace kern {
 
 bool kanCMakeNoemen(const wxString& pad)
 {
-    return pad.find_first_of(wxS(";\\")) == wxString::npos;
+    return pad.find_first_of(wxS(";\\")) == wxString::npos && pad.find(wxS("${")) == wxString::npos;
 }
 
 wxString geefOvergeslagenMelding(std::size_t aantal)
 {
     return wxString::Format(_("%lu names were left out: a CMake file cannot name a path that is not valid "
-                              "UTF-8 or that contains \";\" or \"\\\"."),
+                              "UTF-8 or that contains \";\", \"\\\" or \"${\"."),
                             static_cast<unsigned long>(aantal));
 }
 

@@ -19,12 +19,13 @@
 namespace kern {
 
 // CMake splits every list on ';' whatever the quoting, and reads '\' in a
-// source path as an escape or a separator: no CMake text names a path that
-// holds either, so such a path is never taken into the selection.
+// source path as an escape or a separator, and expands "${" even inside
+// quotes: no CMake text names a path that holds any of them, so such a path
+// is never taken into the selection.
 bool kanCMakeNoemen(const wxString& pad);
 
 // The one message after an Add that left names out: those no CMake text
-// could name (not UTF-8, or holding ';' or '\').
+// could name (not UTF-8, or holding ';', '\' or "${").
 wxString geefOvergeslagenMelding(std::size_t aantal);
 
 class BronSelektie {

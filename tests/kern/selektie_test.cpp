@@ -43,11 +43,11 @@ TEST(BronSelektie, OnlyPathsWithoutSemicolonOrBackslashCanBeNamedInCMake)
 {
     for (const char* pad : {"/p/met spatie.c", "/p/haak(1).c", "/p/geld$.c", "/p/hek#.c", "/p/\"a\".c", "/p/caf\u00e9.c"})
         EXPECT_TRUE(kern::kanCMakeNoemen(wxString::FromUTF8(pad))) << pad;
-    for (const char* pad : {"/p/a;b.c", "/p;q/a.c", "/p/a\\b.c"})
+    for (const char* pad : {"/p/a;b.c", "/p;q/a.c", "/p/a\\b.c", "/p/dollar${HOME}.c", "/p/${x}/a.c"})
         EXPECT_FALSE(kern::kanCMakeNoemen(pad)) << pad;
     EXPECT_EQ(kern::geefOvergeslagenMelding(3),
               "3 names were left out: a CMake file cannot name a path that is not valid UTF-8 or that contains "
-              "\";\" or \"\\\".");
+              "\";\", \"\\\" or \"${\".");
 }
 
 } // namespace

@@ -313,6 +313,7 @@ int voerUit(const wxCmdLineParser& parser)
     invoer.datum = kern::geefGeneratieDatum();
 
     kern::Werklijsten werk;
+    werk.bewaarNamen = false;
     std::string tekst;
     const int foutenVoor = FoutTeller::aantal;
     kern::maakUitvoerUtf8(invoer, werk, tekst);

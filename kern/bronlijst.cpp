@@ -220,11 +220,21 @@ public:
         for (Groep& groep : groepen) {
             if (sluit)
                 groep.regel += ")";
-            werk.groepNamen.Add(wxString::FromUTF8(groep.regel));
+            if (werk.bewaarNamen)
+                werk.groepNamen.Add(wxString::FromUTF8(groep.regel));
         }
     }
 
-    const std::vector<Groep>& geefGroepen() const { return groepen; }
+    std::vector<Groep>& geefGroepen() { return groepen; }
+
+    // About the length of the listing: the groups and a line per directory.
+    size_t geefSchatting() const
+    {
+        size_t n = werk.dirLijst.size() * 128;
+        for (const Groep& groep : groepen)
+            n += groep.regel.size() + 128;
+        return n;
+    }
 
 private:
     template <typename GeefBron>
@@ -251,7 +261,7 @@ private:
             return;
         }
         const wxString mapW = wxString::FromUTF8(map.data(), map.size());
-        if (!isZelfdeVolume(mapW))
+        if (geefVolumeNaad()(wxFileName::DirName(mapW)) != uitvoerVolume)
             info.staat = MapStaat::AnderVolume;
         else if (invoer.soort != SoortInclude && mapW == invoer.uitvoerDir)
             info.staat = MapStaat::Uitvoer;
@@ -436,10 +446,12 @@ void schrijfIncludeBestanden(const GeneratorInvoer& invoer, const Werklijsten& w
     }
 }
 
-void schrijfGroepen(const Werklijsten& werk, const std::vector<Groep>& groepen, Utf8Schrijver& uit)
+// Each group's text is let go once written.
+void schrijfGroepen(const Werklijsten& werk, std::vector<Groep>& groepen, Utf8Schrijver& uit)
 {
     for (size_t n = 0; n < groepen.size(); ++n) {
-        const std::string& naamRegel = groepen[n].regel;
+        std::string naamRegel;
+        naamRegel.swap(groepen[n].regel);
         if (naamRegel.find("set(SRCS ") != std::string::npos) {
             uit << naamRegel << "\n";
             continue;
@@ -483,6 +495,7 @@ void schrijfBronLijst(const GeneratorInvoer& invoer, Werklijsten& werk, std::str
         return;
     }
 
+    tekst.reserve(tekst.size() + verzamelaar.geefSchatting());
     Utf8Schrijver uit(tekst);
     schrijfSrcPaden(invoer, werk, uit);
     schrijfIncludeMappen(invoer, werk, uit);

@@ -73,7 +73,7 @@ void maakIncludeUtf8(const GeneratorInvoer& invoer, Werklijsten& werk, std::stri
     schrijfKop(invoer, _("## Klavermol generated ") + invoer.naam + sp + _("include file"), false, uit);
     uit << "set(SRCS )\n";
     schrijfBronLijst(invoer, werk, tekst);
-    if (!werk.groepNamen.empty()) {
+    if (!werk.groepPaden.empty()) { // one per group
         uit << "\nlist(SORT SRCS)\n\n";
         uit << _("## Include this file where you would want to compile the listed source files (stored in variable SRCS).")
             << vr;

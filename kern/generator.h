@@ -57,6 +57,7 @@ struct Werklijsten
     wxArrayString groepNamen;  // per source group: "set(SRCS<n> " or "list(APPEND SRCS " plus the file names
     wxArrayString includeDirs; // "${SrcPath<i>}" or "." per directory holding headers
     wxArrayString extra;       // kept beside them, unused
+    bool bewaarNamen = true;   // false: groepNamen stays empty (for a caller that only wants the text)
     void leeg();
 };
 

@@ -4,6 +4,8 @@
 
 #include <wx/translation.h>
 
+#include <algorithm>
+
 namespace kern {
 
 bool kanCMakeNoemenUtf8(std::string_view utf8)
@@ -117,6 +119,14 @@ bool BronSelektie::voegToe(std::string_view map, std::string_view naam)
 std::size_t BronSelektie::voegToe(const Vondst& vondst, const DubbelMelder& meldDubbel, std::size_t& overgeslagen)
 {
     const size_t voor = aantal();
+    // room for the whole find at once, without giving up doubling
+    const auto maakRuimte = [](auto& v, size_t extra) {
+        if (v.size() + extra > v.capacity())
+            v.reserve(std::max(v.size() + extra, v.capacity() * 2));
+    };
+    maakRuimte(mapVan_, vondst.aantal());
+    maakRuimte(naamEind_, vondst.aantal());
+    maakRuimte(namen_, vondst.namen.size());
     std::vector<signed char> noembaar(vondst.mappen.size(), -1); // per directory: unknown, no, yes
     for (const auto& ingangen : vondst.perPatroon) {
         for (const Vondst::Ingang& ingang : ingangen) {

@@ -173,9 +173,9 @@ bool onderzoekMap(const wxString& map, int modus, const Families& aan, Aanwezig&
         wijze.verborgen = true;
     }
     std::uint32_t gezien = 0;
-    const bool open = wandel(map, geefProbePatronen(), wijze, Volgorde::EigenBestandenEerst,
-        [&](const wxString&, const std::vector<Treffer>& treffers) {
-            for (const Treffer& t : treffers)
+    const bool open = wandelRuw(map, geefProbePatronen(), wijze, Volgorde::EigenBestandenEerst,
+        [&](const std::string&, const std::vector<RuweTreffer>& treffers) {
+            for (const RuweTreffer& t : treffers)
                 gezien |= t.patronen;
             for (const Vraag& v : vragen)
                 if ((gezien & v.masker) == 0)

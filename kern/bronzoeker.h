@@ -2,7 +2,8 @@
 // Finding source files for the Add command and the probe of the search
 // location. Both walk the directory at most once; the results are those of
 // the toolkit's wxDir enumeration pattern by pattern (see bronwandeling.h
-// for the traversal rules), except that a recursive walk never loops.
+// for the traversal rules), except that only regular files count and each
+// real directory is read once, so a recursive walk never loops.
 #include "kern/voortgang.h"
 
 #include <wx/arrstr.h>

@@ -62,8 +62,8 @@ echo "cli_peak_mb=$peak"
 echo "cli_vs_find=$(awk "BEGIN { printf \"%.2f\", $cpu / ($find_cpu > 0 ? $find_cpu : 0.01) }")"
 
 if [ -n "${DISPLAY:-}" ] && [ -x "$bin/klavermol-bench" ]; then
-    "$bin/klavermol-bench" add "$boom" | sed 's/^/add_/'
-    "$bin/klavermol-bench" execute "$boom" | sed 's/^/execute_/'
+    "$bin/klavermol-bench" add "$boom" 2> /dev/null | sed 's/^/add_/'
+    "$bin/klavermol-bench" execute "$boom" 2> /dev/null | sed 's/^/execute_/'
 else
     echo "bench=skipped (no DISPLAY or no klavermol-bench)"
 fi

@@ -198,8 +198,13 @@ public:
         const size_t slash = pad.rfind('/');
         if (slash == std::string_view::npos || slash + 1 == pad.size())
             return voegToeLangzaam(bron);
-        MapInfo& info = infoPerTekst[std::string(pad.substr(0, slash + 1))];
-        return voegToe(info, pad.substr(0, slash + 1), pad.substr(slash + 1), [&] { return bron; });
+        // Sources come mostly directory by directory: the last one is kept at hand.
+        const std::string_view prefix = pad.substr(0, slash + 1);
+        if (laatsteInfo == nullptr || prefix != laatstePrefix) {
+            laatstePrefix.assign(prefix);
+            laatsteInfo = &infoPerTekst[laatstePrefix];
+        }
+        return voegToe(*laatsteInfo, prefix, pad.substr(slash + 1), [&] { return bron; });
     }
 
     // Entry `i` of the store.
@@ -391,6 +396,8 @@ private:
     std::vector<std::string_view> uitvoerDelen, mapDelen;
     std::unordered_map<std::string, size_t> dirIndex;
     std::unordered_map<std::string, MapInfo> infoPerTekst; // directory of a source in `bronnen`
+    std::string laatstePrefix;
+    MapInfo* laatsteInfo = nullptr;
     std::vector<MapInfo> infoPerMap;                       // directory of the store
     std::unordered_map<wxString, size_t> relatief;         // directory -> its place, the toolkit's way
     std::unordered_map<wxString, bool> zelfdeVolume;       // directory -> on the output's volume

@@ -62,7 +62,7 @@ long piekMb()
 
 std::string vindOpdracht(const std::string& map)
 {
-    return "find '" + map + "' -type f \\( -name '*.c' -o -name '*.h' -o -name '*.cpp' -o -name '*.cxx' -o -name "
+    return "find -L '" + map + "' -type f \\( -name '*.c' -o -name '*.h' -o -name '*.cpp' -o -name '*.cxx' -o -name "
                             "'*.hpp' -o -name '*.s' -o -name '*.S' \\)";
 }
 

@@ -139,12 +139,11 @@ bool isGeenSpeciaalBestand(const wxString& pad)
         || faal("not a regular file: " + pad);
 }
 
-// Writes to standard output; a closed or full one is reported.
-bool schrijfUit(const wxString& tekst)
+// Writes UTF-8 text to standard output; a closed or full one is reported.
+bool schrijfUit(const std::string& utf8)
 {
-    const wxScopedCharBuffer utf8 = tekst.utf8_str();
     errno = 0;
-    if (std::fwrite(utf8.data(), 1, utf8.length(), stdout) == utf8.length() && std::fflush(stdout) == 0)
+    if (std::fwrite(utf8.data(), 1, utf8.size(), stdout) == utf8.size() && std::fflush(stdout) == 0)
         return true;
     return faal("cannot write to standard output: " + wxSysErrorMsgStr(static_cast<unsigned long>(errno ? errno : EIO)));
 }
@@ -173,17 +172,20 @@ bool leesSjablonen(const wxCmdLineParser& parser, kern::Sjablonen& sjablonen)
 class Verzameling
 {
 public:
-    Verzameling(int modus, const kern::Families& families) : modus(modus), families(families) {}
+    Verzameling(int modus, const kern::Families& families, kern::BronSelektie& selektie)
+        : modus(modus), families(families), selektie(selektie)
+    {
+    }
 
     bool voegMapToe(const wxString& map)
     {
         if (!wxFileName::DirExists(map))
             return faal("no such directory: " + map);
-        wxArrayString gevonden;
-        if (!kern::verzamelBestanden(wxFileName::DirName(absoluteMap(map)).GetFullPath(), modus, families, gevonden,
+        kern::Vondst vondst;
+        if (!kern::verzamelBestanden(wxFileName::DirName(absoluteMap(map)).GetFullPath(), modus, families, vondst,
                                      &overgeslagen))
             return faal("cannot read the directory " + map);
-        voegBronnenToe(gevonden);
+        selektie.voegToe(vondst, meldDubbel, overgeslagen);
         return true;
     }
 
@@ -193,7 +195,11 @@ public:
             return false;
         if (!wxFileName::FileExists(pad))
             return faal("no such file: " + pad);
-        voegBronnenToe(wxArrayString(1, absoluut(pad)));
+        const wxString vol = absoluut(pad);
+        if (!kern::kanCMakeNoemen(vol))
+            ++overgeslagen;
+        else if (!selektie.voegToe(vol))
+            meldDubbel(vol);
         return true;
     }
 
@@ -239,9 +245,12 @@ public:
     // `uitgevinkt` holds the texts of the entries to leave unchecked.
     void vulIn(kern::GeneratorInvoer& invoer, const std::set<wxString>& uitgevinkt) const
     {
-        for (size_t i = 0; i < selektie.aantal(); ++i)
-            if (uitgevinkt.count(selektie.geef(i)) == 0)
-                invoer.bronnen.Add(selektie.geef(i));
+        for (const wxString& pad : uitgevinkt) {
+            const long i = selektie.zoek(pad);
+            if (i >= 0)
+                selektie.zetAangevinkt(static_cast<size_t>(i), false);
+        }
+        invoer.selektie = &selektie;
         invoer.biebs = biebs;
         for (kern::BiebRegel& b : invoer.biebs)
             b.aangevinkt = uitgevinkt.count(b.map) == 0;
@@ -254,24 +263,15 @@ public:
     std::size_t geefOvergeslagen() const { return overgeslagen; }
 
 private:
-    void voegBronnenToe(const wxArrayString& paden)
+    static void meldDubbel(const wxString& pad)
     {
-        wxArrayString noembaar;
-        noembaar.reserve(paden.size());
-        for (const wxString& pad : paden)
-            if (kern::kanCMakeNoemen(pad))
-                noembaar.Add(pad);
-            else
-                ++overgeslagen;
-        selektie.voegToe(noembaar, [](const wxString& pad) {
-            meld(pad + " won't be added since it is already in your selection list.");
-        });
+        meld(pad + " won't be added since it is already in your selection list.");
     }
 
     int modus;
     kern::Families families;
     std::size_t overgeslagen = 0;
-    kern::BronSelektie selektie;
+    kern::BronSelektie& selektie;
     std::vector<kern::BiebRegel> biebs;
     std::vector<kern::IncludeRegel> includes;
 };
@@ -296,7 +296,7 @@ bool leesKeuzes(const wxCmdLineParser& parser, kern::GeneratorInvoer& invoer, in
 }
 
 // The DIR parameters and the list options, in command-line order.
-bool verzamel(const wxCmdLineParser& parser, int modus, kern::GeneratorInvoer& invoer)
+bool verzamel(const wxCmdLineParser& parser, int modus, kern::GeneratorInvoer& invoer, kern::BronSelektie& selektie)
 {
     kern::Families families;
     families.c = heeftSchakelaar(parser, "c");
@@ -306,7 +306,7 @@ bool verzamel(const wxCmdLineParser& parser, int modus, kern::GeneratorInvoer& i
     if (parser.GetParamCount() > 0 && !(families.c || families.cpp || families.h || families.s))
         return faal("a DIR needs at least one of --c, --cpp, --h and --asm");
 
-    Verzameling verzameling(modus, families);
+    Verzameling verzameling(modus, families, selektie);
     std::set<wxString> uitgevinkt;
     for (const wxCmdLineArg& arg : parser.GetArguments()) {
         const wxString naam = arg.GetKind() == wxCMD_LINE_PARAM ? wxString() : arg.GetLongName();
@@ -333,6 +333,7 @@ bool verzamel(const wxCmdLineParser& parser, int modus, kern::GeneratorInvoer& i
 int voerUit(const wxCmdLineParser& parser)
 {
     kern::GeneratorInvoer invoer;
+    kern::BronSelektie selektie;
     int modus = 0;
     if (!leesKeuzes(parser, invoer, modus))
         return Fout;
@@ -341,15 +342,16 @@ int voerUit(const wxCmdLineParser& parser)
         faal(naamFout);
         return VerkeerdGebruik;
     }
-    if (!verzamel(parser, modus, invoer)
+    if (!verzamel(parser, modus, invoer, selektie)
         || !leesSjablonen(parser, invoer.sjablonen))
         return Fout;
     invoer.datum = kern::geefGeneratieDatum();
 
     kern::Werklijsten werk;
-    wxString tekst;
+    werk.bewaarNamen = false;
+    std::string tekst;
     const int foutenVoor = FoutTeller::aantal;
-    kern::maakUitvoer(invoer, werk, tekst);
+    kern::maakUitvoerUtf8(invoer, werk, tekst);
     if (FoutTeller::aantal > foutenVoor)
         return Fout; // reported already; nothing is printed or written
 
@@ -384,7 +386,7 @@ int main(int argc, char** argv)
     // stderr, or stands alone on stdout when it was asked for.
     switch (parser.Parse(false)) {
     case 0: return voerUit(parser);
-    case -1: return schrijfUit(parser.GetUsageString().Trim() + "\n") ? Gelukt : Fout;
+    case -1: return schrijfUit(std::string((parser.GetUsageString().Trim() + "\n").utf8_str())) ? Gelukt : Fout;
     default: meld(parser.GetUsageString().Trim()); return VerkeerdGebruik;
     }
 }

@@ -4,12 +4,16 @@
 #include <wx/filefn.h>
 #include <wx/strconv.h>
 
+#include <cerrno>
 #include <cstring>
-#include <climits>
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
+#include <unordered_map>
+#include <unordered_set>
 
 namespace kern {
 namespace {
@@ -67,15 +71,54 @@ bool isAscii(const char* s, size_t& lengte)
     return ascii;
 }
 
+// A name other than plain ASCII that a CMake text can name: valid UTF-8
+// that the toolkit's file-name conversion gives back byte for byte.
+bool isNoembaar(const char* naam, size_t lengte)
+{
+    if (wxConvUTF8.ToWChar(nullptr, 0, naam, lengte) == wxCONV_FAILED)
+        return false;
+    const wxString naamW(naam, *wxConvFileName, lengte);
+    return !naamW.empty() && std::strcmp(naamW.fn_str(), naam) == 0;
+}
+
 struct MapId {
     dev_t dev;
     ino_t ino;
+    bool operator==(const MapId& o) const { return dev == o.dev && ino == o.ino; }
 };
+
+struct MapIdHash {
+    size_t operator()(const MapId& id) const
+    {
+        return std::hash<std::uint64_t>()(static_cast<std::uint64_t>(id.ino) * 0x9e3779b97f4a7c15ULL
+                                          ^ static_cast<std::uint64_t>(id.dev));
+    }
+};
+
+// File systems that show the kernel's state rather than stored files: a
+// walk that enters them may never end (/proc/N/cwd leads back to /).
+bool isPseudo(int fd)
+{
+    static const unsigned long soorten[] = {
+        PROC_SUPER_MAGIC, SYSFS_MAGIC, CGROUP_SUPER_MAGIC, CGROUP2_SUPER_MAGIC, DEBUGFS_MAGIC,
+        TRACEFS_MAGIC, SECURITYFS_MAGIC, PSTOREFS_MAGIC, BPF_FS_MAGIC, DEVPTS_SUPER_MAGIC,
+        0x19800202UL /* mqueue */, NSFS_MAGIC, 0x62656570UL /* configfs */, 0x65735543UL /* fusectl */,
+        SELINUX_MAGIC, SMACK_MAGIC, EFIVARFS_MAGIC, BINFMTFS_MAGIC, HUGETLBFS_MAGIC};
+    struct statfs fs;
+    if (::fstatfs(fd, &fs) != 0)
+        return false;
+    for (unsigned long soort : soorten)
+        if (static_cast<unsigned long>(fs.f_type) == soort)
+            return true;
+    return false;
+}
+
+enum class Soort { Geen, Bestand, Map };
 
 class Wandeling {
 public:
     Wandeling(const std::vector<wxString>& patronen, const WandelWijze& wijze,
-              Volgorde volgorde, const MapOntvanger& ontvanger, std::size_t& overgeslagen,
+              Volgorde volgorde, const RuweOntvanger& ontvanger, std::size_t& overgeslagen,
               Voortgang* voortgang)
         : wijze_(wijze), volgorde_(volgorde), ontvanger_(ontvanger), overgeslagen_(overgeslagen),
           voortgang_(voortgang)
@@ -84,32 +127,33 @@ public:
             patronen_.push_back(p.ToStdWstring());
     }
 
-    // Takes over `d`: enters it unless it is already on the path.
-    void gaIn(DIR* d, const wxString& prefix);
+    // Takes over the descriptor `fd`: reads the directory unless it was
+    // read before in this walk or lies on a pseudo file system.
+    void gaIn(int fd, std::string& prefix);
 
 private:
-    std::uint32_t zoekPatronen(const char* naam, size_t lengte, bool ascii,
-                               const wxString& naamW) const;
-    bool isMap(const dirent* de, const wxString& prefix, const wxString& naam,
-               bool betrouwbaar) const;
-    void bezoek(DIR* d, const wxString& prefix);
-    void telOvergeslagen(DIR* d, const dirent* de, size_t lengte);
+    std::uint32_t zoekPatronen(const char* naam, size_t lengte, bool ascii) const;
+    Soort geefSoort(int fd, const dirent* de) const;
+    bool magIn(int fd);
+    void bezoek(DIR* d, std::string& prefix);
 
     WandelWijze wijze_;
     Volgorde volgorde_;
-    const MapOntvanger& ontvanger_;
+    const RuweOntvanger& ontvanger_;
     std::size_t& overgeslagen_;
     std::vector<std::wstring> patronen_;
-    std::vector<MapId> pad_;
+    std::unordered_set<MapId, MapIdHash> gezien_;
+    std::unordered_map<dev_t, bool> pseudo_;
+    dev_t wortelDev_ = 0;
     Voortgang* voortgang_;
     bool gestopt_ = false;
 };
 
-std::uint32_t Wandeling::zoekPatronen(const char* naam, size_t lengte, bool ascii,
-                                      const wxString& naamW) const
+std::uint32_t Wandeling::zoekPatronen(const char* naam, size_t lengte, bool ascii) const
 {
     std::uint32_t masker = 0;
     const bool puntApart = !wijze_.verborgen;
+    const wxString naamW = ascii ? wxString() : wxString::FromUTF8(naam, lengte);
     for (size_t i = 0; i < patronen_.size(); ++i) {
         const bool past = ascii
             ? pastWild(patronen_[i], naam, lengte, puntApart)
@@ -120,49 +164,50 @@ std::uint32_t Wandeling::zoekPatronen(const char* naam, size_t lengte, bool asci
     return masker;
 }
 
-// The toolkit asks stat (or lstat) on the path it built from the converted
-// names; d_type says the same whenever that path is the real one.
-bool Wandeling::isMap(const dirent* de, const wxString& prefix, const wxString& naam,
-                      bool betrouwbaar) const
+// What an entry is, from readdir's type where it tells, otherwise from its
+// status. In a directory that may be read but not searched only the type
+// is known: a link or an entry of unknown type there is nothing.
+Soort Wandeling::geefSoort(int fd, const dirent* de) const
 {
-    if (betrouwbaar) {
-        if (de->d_type == DT_DIR)
-            return true;
-        if (de->d_type == DT_LNK && !wijze_.volgLinks)
-            return false;
-        if (de->d_type != DT_UNKNOWN && de->d_type != DT_LNK)
-            return false;
-    }
+    unsigned char type = de->d_type;
     struct stat st;
-    const wxString pad = prefix + naam;
-    const int rc = wijze_.volgLinks ? ::stat(pad.fn_str(), &st) : ::lstat(pad.fn_str(), &st);
-    return rc == 0 && S_ISDIR(st.st_mode);
-}
-
-// A name left out is counted when it would have mattered: a file that
-// matches a pattern, or a directory the walk would have entered. Both are
-// judged on the bytes on disk.
-void Wandeling::telOvergeslagen(DIR* d, const dirent* de, size_t lengte)
-{
-    bool map = de->d_type == DT_DIR;
-    if (de->d_type == DT_UNKNOWN || (de->d_type == DT_LNK && wijze_.volgLinks)) {
-        struct stat st;
-        const int vlag = wijze_.volgLinks ? 0 : AT_SYMLINK_NOFOLLOW;
-        map = ::fstatat(::dirfd(d), de->d_name, &st, vlag) == 0 && S_ISDIR(st.st_mode);
+    if (type == DT_UNKNOWN) {
+        if (::fstatat(fd, de->d_name, &st, AT_SYMLINK_NOFOLLOW) != 0)
+            return Soort::Geen;
+        type = S_ISLNK(st.st_mode) ? DT_LNK : S_ISDIR(st.st_mode) ? DT_DIR : S_ISREG(st.st_mode) ? DT_REG : DT_FIFO;
     }
-    if (map ? wijze_.recursief : zoekPatronen(de->d_name, lengte, true, wxString()) != 0)
-        ++overgeslagen_;
+    if (type == DT_REG)
+        return Soort::Bestand;
+    if (type == DT_DIR)
+        return Soort::Map;
+    if (type != DT_LNK || ::fstatat(fd, de->d_name, &st, 0) != 0)
+        return Soort::Geen;
+    if (S_ISREG(st.st_mode))
+        return Soort::Bestand;
+    return S_ISDIR(st.st_mode) && wijze_.volgLinks ? Soort::Map : Soort::Geen;
 }
 
-void Wandeling::bezoek(DIR* d, const wxString& prefix)
+bool Wandeling::magIn(int fd)
 {
-    const std::string bytePrefix(prefix.fn_str());
-    // In a directory we may read but not search, every stat fails and the
-    // toolkit takes each entry for a file.
-    const bool zoekbaar = ::faccessat(::dirfd(d), ".", X_OK, AT_EACCESS) == 0;
+    struct stat st;
+    if (::fstat(fd, &st) != 0 || !gezien_.insert(MapId{st.st_dev, st.st_ino}).second)
+        return false;
+    if (gezien_.size() == 1)
+        wortelDev_ = st.st_dev; // the user picked this one: read it whatever it is
+    if (st.st_dev == wortelDev_)
+        return true;
+    auto plek = pseudo_.find(st.st_dev);
+    if (plek == pseudo_.end())
+        plek = pseudo_.emplace(st.st_dev, isPseudo(fd)).first;
+    return !plek->second;
+}
 
-    std::vector<wxString> submappen;
-    std::vector<Treffer> treffers;
+void Wandeling::bezoek(DIR* d, std::string& prefix)
+{
+    const int leesFd = ::dirfd(d);
+    std::vector<std::string> submappen;
+    std::string namen; // the matching names, one after the other
+    std::vector<std::pair<size_t, std::uint32_t>> treffers; // end in `namen`, patterns
     while (const dirent* de = ::readdir(d)) {
         const char* naam = de->d_name;
         if (naam[0] == '.') {
@@ -173,28 +218,29 @@ void Wandeling::bezoek(DIR* d, const wxString& prefix)
         }
         size_t lengte = 0;
         const bool ascii = isAscii(naam, lengte);
+        const Soort soort = geefSoort(leesFd, de);
+        if (soort == Soort::Geen || (soort == Soort::Map && !wijze_.recursief))
+            continue;
         // Plain ASCII converts to itself both ways. Any other name must be
         // UTF-8 (the CMake file is) and come back as the same bytes from
-        // the toolkit's conversion; otherwise no text could name the file.
-        const wxString naamW = ascii ? wxString::FromAscii(naam, lengte)
-                                     : wxString(naam, *wxConvFileName);
-        if (!ascii && (wxConvUTF8.ToWChar(nullptr, 0, naam, lengte) == wxCONV_FAILED
-                       || naamW.empty() || std::strcmp(naamW.fn_str(), naam) != 0)) {
-            telOvergeslagen(d, de, lengte);
+        // the toolkit's conversion; otherwise no text could name the file
+        // (its bytes are matched as they are, to know whether it counts).
+        const bool noembaar = ascii || isNoembaar(naam, lengte);
+        const std::uint32_t masker =
+            soort == Soort::Bestand ? zoekPatronen(naam, lengte, ascii || !noembaar) : 0;
+        if (soort == Soort::Bestand && masker == 0)
+            continue;
+        if (!noembaar) {
+            ++overgeslagen_;
             continue;
         }
-        const bool betrouwbaar = zoekbaar && bytePrefix.size() + lengte < PATH_MAX;
-
-        if (isMap(de, prefix, naamW, betrouwbaar)) {
-            if (wijze_.recursief)
-                submappen.push_back(naamW);
+        if (soort == Soort::Map) {
+            submappen.emplace_back(naam, lengte);
             continue;
         }
-        const std::uint32_t masker = zoekPatronen(naam, lengte, ascii, naamW);
-        if (masker != 0)
-            treffers.push_back(Treffer{naamW, masker});
+        namen.append(naam, lengte);
+        treffers.emplace_back(namen.size(), masker);
     }
-    ::closedir(d);
 
     if (voortgang_) {
         voortgang_->mappen.fetch_add(1, std::memory_order_relaxed);
@@ -202,35 +248,56 @@ void Wandeling::bezoek(DIR* d, const wxString& prefix)
         gestopt_ = gestopt_ || voortgang_->isAfgebroken();
     }
     const auto geefAf = [&]() {
-        if (!gestopt_ && !treffers.empty() && !ontvanger_(prefix, treffers))
-            gestopt_ = true;
+        if (gestopt_ || treffers.empty())
+            return;
+        std::vector<RuweTreffer> uit;
+        uit.reserve(treffers.size());
+        size_t begin = 0;
+        for (const auto& [eind, masker] : treffers) {
+            uit.push_back(RuweTreffer{std::string_view(namen).substr(begin, eind - begin), masker});
+            begin = eind;
+        }
+        gestopt_ = !ontvanger_(prefix, uit);
     };
     if (volgorde_ == Volgorde::EigenBestandenEerst)
         geefAf();
-    for (const wxString& sub : submappen) {
-        if (gestopt_)
-            return;
-        const wxString pad = prefix + sub;
-        if (DIR* sd = ::opendir(pad.fn_str()))
-            gaIn(sd, pad + wxS('/'));
+    // Only the descriptor is kept while the sub-directories are read, not
+    // the stream's buffer.
+    const int fd = submappen.empty() ? -1 : ::dup(::dirfd(d));
+    ::closedir(d);
+    if (fd < 0) {
+        overgeslagen_ += submappen.size(); // out of descriptors
+        submappen.clear();
     }
-    if (volgorde_ == Volgorde::SubmappenEerst && !gestopt_)
+    const size_t lengte = prefix.size();
+    const int vlaggen = O_RDONLY | O_DIRECTORY | O_CLOEXEC | (wijze_.volgLinks ? 0 : O_NOFOLLOW);
+    for (const std::string& sub : submappen) {
+        if (gestopt_)
+            break;
+        const int subFd = ::openat(fd, sub.c_str(), vlaggen);
+        if (subFd < 0) {
+            if (errno == EMFILE || errno == ENFILE)
+                ++overgeslagen_; // too deep to hold every level open
+            continue;
+        }
+        prefix.append(sub).push_back('/');
+        gaIn(subFd, prefix);
+        prefix.resize(lengte);
+    }
+    if (fd >= 0)
+        ::close(fd);
+    if (volgorde_ == Volgorde::SubmappenEerst)
         geefAf();
 }
 
-void Wandeling::gaIn(DIR* d, const wxString& prefix)
+void Wandeling::gaIn(int fd, std::string& prefix)
 {
-    struct stat st;
-    bool bekend = ::fstat(::dirfd(d), &st) != 0;
-    for (const MapId& id : pad_)
-        bekend = bekend || (id.dev == st.st_dev && id.ino == st.st_ino);
-    if (bekend) {
-        ::closedir(d);
+    DIR* d = magIn(fd) ? ::fdopendir(fd) : nullptr;
+    if (!d) {
+        ::close(fd);
         return;
     }
-    pad_.push_back(MapId{st.st_dev, st.st_ino});
     bezoek(d, prefix);
-    pad_.pop_back();
 }
 
 // The toolkit's name of an opened directory with its separator: trailing
@@ -248,21 +315,36 @@ wxString geefPrefix(const wxString& map)
 
 } // namespace
 
-bool wandel(const wxString& map, const std::vector<wxString>& patronen,
-            const WandelWijze& wijze, Volgorde volgorde,
-            const MapOntvanger& ontvanger, std::size_t* overgeslagen, Voortgang* voortgang)
+bool wandelRuw(const wxString& map, const std::vector<wxString>& patronen,
+               const WandelWijze& wijze, Volgorde volgorde,
+               const RuweOntvanger& ontvanger, std::size_t* overgeslagen, Voortgang* voortgang)
 {
     wxASSERT_MSG(patronen.size() <= 32, "te veel patronen voor één wandeling");
     if (map.empty())
         return false;
-    DIR* d = ::opendir(map.fn_str());
-    if (!d)
+    const int fd = ::open(map.fn_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
         return false;
     std::size_t geteld = 0;
-    Wandeling(patronen, wijze, volgorde, ontvanger, geteld, voortgang).gaIn(d, geefPrefix(map));
+    std::string prefix(geefPrefix(map).utf8_str());
+    Wandeling(patronen, wijze, volgorde, ontvanger, geteld, voortgang).gaIn(fd, prefix);
     if (overgeslagen)
         *overgeslagen += geteld;
     return true;
+}
+
+bool wandel(const wxString& map, const std::vector<wxString>& patronen,
+            const WandelWijze& wijze, Volgorde volgorde,
+            const MapOntvanger& ontvanger, std::size_t* overgeslagen, Voortgang* voortgang)
+{
+    std::vector<Treffer> treffers;
+    return wandelRuw(map, patronen, wijze, volgorde,
+        [&](const std::string& prefix, const std::vector<RuweTreffer>& ruw) {
+            treffers.clear();
+            for (const RuweTreffer& t : ruw)
+                treffers.push_back(Treffer{wxString::FromUTF8(t.naam.data(), t.naam.size()), t.patronen});
+            return ontvanger(wxString::FromUTF8(prefix), treffers);
+        }, overgeslagen, voortgang);
 }
 
 bool pastPatroon(const wxString& patroon, const wxString& naam, bool puntApart)

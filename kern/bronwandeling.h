@@ -9,10 +9,9 @@
 //    the order equals the toolkit's);
 //  - "." and ".." are skipped; without `verborgen` every name starting with
 //    a dot is skipped, directories included;
-//  - everything that is not a directory counts as a file: regular files,
-//    symbolic links to files, broken links, fifos. With `volgLinks` a link
-//    is judged by its target (a link to a directory is a directory), without
-//    it by itself (a link to a directory is then a file);
+//  - only regular files and links to regular files count as files; broken
+//    links, fifos, sockets and devices are passed by. With `volgLinks` a
+//    link to a directory is a directory, without it nothing;
 //  - patterns are matched case-sensitively against the file name with the
 //    toolkit's wildcard rules ('*' any run, '?' one character, '\' quotes);
 //  - a directory that cannot be opened is passed by silently;
@@ -20,10 +19,15 @@
 //    toolkit's file-name conversion does not give back byte for byte, is
 //    left out: no CMake text could name it. Such names are counted when
 //    they matter (a matching file, a directory a recursive walk would
-//    enter), so the caller can say how many were left out;
-//  - unlike the toolkit, a directory that is already on the path from the
-//    root (same device and inode, reached again through a link or a bind
-//    mount) is not entered again, so a recursive walk always ends.
+//    enter), so the caller can say how many were left out. A directory
+//    that cannot be entered for want of file descriptors counts the same;
+//  - unlike the toolkit, every real directory (device and inode) is read at
+//    most once per walk, however many links or bind mounts lead to it, so
+//    a walk always ends and gives every file once;
+//  - pseudo file systems (proc, sysfs, cgroup, debugfs, ...) are not
+//    entered, except the one the walk starts in;
+//  - directories are opened relative to their parent's descriptor, so the
+//    depth of a tree and the length of its paths do not matter.
 #include "kern/voortgang.h"
 
 #include <wx/string.h>
@@ -31,6 +35,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace kern {
@@ -55,6 +61,15 @@ struct Treffer {
 using MapOntvanger =
     std::function<bool(const wxString& prefix, const std::vector<Treffer>&)>;
 
+// The same for the byte form: `prefix` as UTF-8 bytes ending in '/', the
+// names as UTF-8 bytes (valid only during the call).
+struct RuweTreffer {
+    std::string_view naam;
+    std::uint32_t patronen = 0;
+};
+using RuweOntvanger =
+    std::function<bool(const std::string& prefix, const std::vector<RuweTreffer>&)>;
+
 // In what order a directory's own files are handed out: after its
 // sub-directories (the toolkit's order), or before them (a probe that wants
 // to stop early and does not care about order).
@@ -68,6 +83,12 @@ bool wandel(const wxString& map, const std::vector<wxString>& patronen,
             const WandelWijze& wijze, Volgorde volgorde,
             const MapOntvanger& ontvanger, std::size_t* overgeslagen = nullptr,
             Voortgang* voortgang = nullptr);
+
+// The same walk handing out bytes: no text conversion per file.
+bool wandelRuw(const wxString& map, const std::vector<wxString>& patronen,
+               const WandelWijze& wijze, Volgorde volgorde,
+               const RuweOntvanger& ontvanger, std::size_t* overgeslagen = nullptr,
+               Voortgang* voortgang = nullptr);
 
 // The toolkit's wildcard match of a name against a pattern; with puntApart
 // a name starting with a dot never matches.

@@ -94,36 +94,66 @@ std::vector<wxString> geefPatronen(const Families& aan)
     return patronen;
 }
 
-bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
-                       wxArrayString& gevonden, std::size_t* overgeslagen, Voortgang* voortgang)
+size_t Vondst::aantal() const
 {
+    size_t n = 0;
+    for (const auto& ingangen : perPatroon)
+        n += ingangen.size();
+    return n;
+}
+
+void Vondst::wis()
+{
+    mappen.clear();
+    namen.clear();
+    perPatroon.clear();
+}
+
+bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
+                       Vondst& vondst, std::size_t* overgeslagen, Voortgang* voortgang)
+{
+    vondst.wis();
     if (modus != ModusMap && modus != ModusRecursief)
         return true;
     const std::vector<wxString> patronen = geefPatronen(aan);
     if (patronen.empty())
         return kanOpenen(map);
 
-    // One bucket per pattern; the walk fills them all at once.
-    std::vector<std::vector<wxString>> emmers(patronen.size());
-    const bool open = wandel(map, patronen, geefWijze(modus), Volgorde::SubmappenEerst,
-        [&emmers](const wxString& prefix, const std::vector<Treffer>& treffers) {
-            for (const Treffer& t : treffers) {
-                const wxString pad = prefix + t.naam;
-                for (size_t i = 0; i < emmers.size(); ++i)
+    // One list per pattern; the walk fills them all at once.
+    vondst.perPatroon.resize(patronen.size());
+    const bool open = wandelRuw(map, patronen, geefWijze(modus), Volgorde::SubmappenEerst,
+        [&vondst](const std::string& prefix, const std::vector<RuweTreffer>& treffers) {
+            const auto nummer = static_cast<std::uint32_t>(vondst.mappen.size());
+            vondst.mappen.push_back(prefix);
+            for (const RuweTreffer& t : treffers) {
+                const auto naam = static_cast<std::uint32_t>(vondst.namen.size());
+                vondst.namen.append(t.naam).push_back('\0');
+                for (size_t i = 0; i < vondst.perPatroon.size(); ++i)
                     if (t.patronen & (std::uint32_t(1) << i))
-                        emmers[i].push_back(pad);
+                        vondst.perPatroon[i].push_back(Vondst::Ingang{nummer, naam});
             }
             return true;
         }, overgeslagen, voortgang);
     if (voortgang && voortgang->isAfgebroken())
-        return open;
-    size_t totaal = gevonden.size();
-    for (const auto& emmer : emmers)
-        totaal += emmer.size();
-    gevonden.Alloc(totaal);
-    for (const auto& emmer : emmers)
-        for (const wxString& pad : emmer)
-            gevonden.Add(pad);
+        vondst.wis();
+    return open;
+}
+
+bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
+                       wxArrayString& gevonden, std::size_t* overgeslagen, Voortgang* voortgang)
+{
+    Vondst vondst;
+    const bool open = verzamelBestanden(map, modus, aan, vondst, overgeslagen, voortgang);
+    std::vector<wxString> mappen;
+    mappen.reserve(vondst.mappen.size());
+    for (const std::string& m : vondst.mappen)
+        mappen.push_back(wxString::FromUTF8(m));
+    gevonden.Alloc(gevonden.size() + vondst.aantal());
+    for (const auto& ingangen : vondst.perPatroon)
+        for (const Vondst::Ingang& i : ingangen) {
+            const std::string_view naam = vondst.geefNaam(i);
+            gevonden.Add(mappen[i.map] + wxString::FromUTF8(naam.data(), naam.size()));
+        }
     return open;
 }
 
@@ -143,9 +173,9 @@ bool onderzoekMap(const wxString& map, int modus, const Families& aan, Aanwezig&
         wijze.verborgen = true;
     }
     std::uint32_t gezien = 0;
-    const bool open = wandel(map, geefProbePatronen(), wijze, Volgorde::EigenBestandenEerst,
-        [&](const wxString&, const std::vector<Treffer>& treffers) {
-            for (const Treffer& t : treffers)
+    const bool open = wandelRuw(map, geefProbePatronen(), wijze, Volgorde::EigenBestandenEerst,
+        [&](const std::string&, const std::vector<RuweTreffer>& treffers) {
+            for (const RuweTreffer& t : treffers)
                 gezien |= t.patronen;
             for (const Vraag& v : vragen)
                 if ((gezien & v.masker) == 0)

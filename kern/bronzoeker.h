@@ -2,15 +2,36 @@
 // Finding source files for the Add command and the probe of the search
 // location. Both walk the directory at most once; the results are those of
 // the toolkit's wxDir enumeration pattern by pattern (see bronwandeling.h
-// for the traversal rules), except that a recursive walk never loops.
+// for the traversal rules), except that only regular files count and each
+// real directory is read once, so a recursive walk never loops.
 #include "kern/voortgang.h"
 
 #include <wx/arrstr.h>
 #include <wx/string.h>
 
+#include <cstdint>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace kern {
+
+// What a walk found, compact: each directory once (UTF-8, ending in its
+// separator), each name once (UTF-8, ended by a NUL byte), and per pattern
+// the entries in the order the toolkit would give them.
+struct Vondst {
+    struct Ingang {
+        std::uint32_t map;  // in `mappen`
+        std::uint32_t naam; // where the name begins in `namen`
+    };
+    std::vector<std::string> mappen;
+    std::string namen;
+    std::vector<std::vector<Ingang>> perPatroon;
+
+    std::string_view geefNaam(const Ingang& i) const { return namen.c_str() + i.naam; }
+    size_t aantal() const;
+    void wis();
+};
 
 // The four file-type switches: C, C++, header, assembler.
 struct Families {
@@ -41,6 +62,11 @@ std::vector<wxString> geefPatronen(const Families& aan);
 // appends nothing.
 bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
                        wxArrayString& gevonden, std::size_t* overgeslagen = nullptr,
+                       Voortgang* voortgang = nullptr);
+// The same into the compact form, which is emptied first; a stopped walk
+// leaves it empty.
+bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
+                       Vondst& vondst, std::size_t* overgeslagen = nullptr,
                        Voortgang* voortgang = nullptr);
 
 // The probe's found flags: found-C, found-C++, found-header, found-assembler.

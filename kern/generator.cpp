@@ -14,7 +14,7 @@ const char* const minimumVersie = "cmake_minimum_required(VERSION 2.8.10)";
 
 // The lines every kind starts with after its title: the date, the header
 // text and the minimum version.
-void schrijfKop(const GeneratorInvoer& invoer, const wxString& titel, bool metProjektNaam, wxString& uit)
+void schrijfKop(const GeneratorInvoer& invoer, const wxString& titel, bool metProjektNaam, Utf8Schrijver& uit)
 {
     uit << titel << vr;
     uit << _("## File generated on : ") << invoer.datum << ".\n";
@@ -27,8 +27,9 @@ void schrijfKop(const GeneratorInvoer& invoer, const wxString& titel, bool metPr
 
 } // namespace
 
-void maakProjekt(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
+void maakProjektUtf8(const GeneratorInvoer& invoer, Werklijsten& werk, std::string& tekst)
 {
+    Utf8Schrijver uit(tekst);
     schrijfKop(invoer, _("## Klavermol generated CMakelists Project file"), true, uit);
     const bool kruis = invoer.projektType != 0;
     if (kruis) {
@@ -36,7 +37,7 @@ void maakProjekt(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit
         uit << _("## Please include a cross-compile configuration file here (using include or directly).") << "\n\n";
     }
     uit << "set(SRCS )\n";
-    schrijfProjektLibUitvoer(invoer, werk, uit);
+    schrijfBronLijst(invoer, werk, tekst);
     uit << "\nlist(SORT SRCS)\n\n";
     uit << (kruis ? invoer.sjablonen.ccProjektKommando : invoer.sjablonen.projektKommando);
     uit << "\ntarget_link_libraries(${ProjectName} ";
@@ -48,13 +49,14 @@ void maakProjekt(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit
     uit << "\n\n\n";
 }
 
-void maakLib(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
+void maakLibUtf8(const GeneratorInvoer& invoer, Werklijsten& werk, std::string& tekst)
 {
+    Utf8Schrijver uit(tekst);
     schrijfKop(invoer, _("## Klavermol generated CMakelists add_library file"), false, uit);
     uit << _("# The absolute path for this CMakeLists.txt file is : \"") << invoer.uitvoerDir << "\"\n";
     uit << "set(" << invoer.sjablonen.biebLibNaam << " " << invoer.naam << ")\n\n";
     uit << "set(SRCS )\n";
-    schrijfProjektLibUitvoer(invoer, werk, uit);
+    schrijfBronLijst(invoer, werk, tekst);
     uit << "\nlist(SORT SRCS)\n\n";
     switch (invoer.biebType) {
     case 0: uit << invoer.sjablonen.biebKommando; break;
@@ -65,12 +67,13 @@ void maakLib(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
     uit << "\n\n\n";
 }
 
-void maakInclude(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
+void maakIncludeUtf8(const GeneratorInvoer& invoer, Werklijsten& werk, std::string& tekst)
 {
+    Utf8Schrijver uit(tekst);
     schrijfKop(invoer, _("## Klavermol generated ") + invoer.naam + sp + _("include file"), false, uit);
     uit << "set(SRCS )\n";
-    schrijfProjektLibUitvoer(invoer, werk, uit);
-    if (!werk.groepNamen.empty()) {
+    schrijfBronLijst(invoer, werk, tekst);
+    if (!werk.groepPaden.empty()) { // one per group
         uit << "\nlist(SORT SRCS)\n\n";
         uit << _("## Include this file where you would want to compile the listed source files (stored in variable SRCS).")
             << vr;
@@ -81,14 +84,51 @@ void maakInclude(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit
     uit << "\n\n\n";
 }
 
-void maakUitvoer(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
+void maakUitvoerUtf8(const GeneratorInvoer& invoer, Werklijsten& werk, std::string& uit)
 {
     switch (invoer.soort) {
-    case SoortProjekt: maakProjekt(invoer, werk, uit); break;
-    case SoortBieb: maakLib(invoer, werk, uit); break;
-    case SoortInclude: maakInclude(invoer, werk, uit); break;
+    case SoortProjekt: maakProjektUtf8(invoer, werk, uit); break;
+    case SoortBieb: maakLibUtf8(invoer, werk, uit); break;
+    case SoortInclude: maakIncludeUtf8(invoer, werk, uit); break;
     default: break;
     }
+}
+
+namespace {
+
+void naarWx(void (*maak)(const GeneratorInvoer&, Werklijsten&, std::string&), const GeneratorInvoer& invoer,
+            Werklijsten& werk, wxString& uit)
+{
+    std::string tekst;
+    maak(invoer, werk, tekst);
+    uit << wxString::FromUTF8(tekst);
+}
+
+} // namespace
+
+void maakUitvoer(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
+{
+    naarWx(maakUitvoerUtf8, invoer, werk, uit);
+}
+
+void maakProjekt(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
+{
+    naarWx(maakProjektUtf8, invoer, werk, uit);
+}
+
+void maakLib(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
+{
+    naarWx(maakLibUtf8, invoer, werk, uit);
+}
+
+void maakInclude(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
+{
+    naarWx(maakIncludeUtf8, invoer, werk, uit);
+}
+
+void schrijfProjektLibUitvoer(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
+{
+    naarWx(schrijfBronLijst, invoer, werk, uit);
 }
 
 } // namespace kern

@@ -9,6 +9,7 @@
 #include <wx/string.h>
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace kern {
@@ -30,10 +31,13 @@ struct IncludeRegel
     bool aangevinkt = true;
 };
 
+class BronSelektie;
+
 // Everything a generator reads.
 struct GeneratorInvoer
 {
     wxArrayString bronnen;              // the checked source entries, in list order
+    const BronSelektie* selektie = nullptr; // when given, its checked entries instead of `bronnen`
     std::vector<BiebRegel> biebs;       // the whole "Libraries" list, in order
     std::vector<IncludeRegel> includes; // the whole "Include files" list, in order
     wxString uitvoerDir;                // as the output directory picker holds it
@@ -53,6 +57,7 @@ struct Werklijsten
     wxArrayString groepNamen;  // per source group: "set(SRCS<n> " or "list(APPEND SRCS " plus the file names
     wxArrayString includeDirs; // "${SrcPath<i>}" or "." per directory holding headers
     wxArrayString extra;       // kept beside them, unused
+    bool bewaarNamen = true;   // false: groepNamen stays empty (for a caller that only wants the text)
     void leeg();
 };
 
@@ -64,6 +69,13 @@ void maakInclude(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit
 
 // The source listing all three kinds share, after their "set(SRCS )" line.
 void schrijfProjektLibUitvoer(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit);
+
+// The same texts appended as UTF-8 to one buffer: no wide text per file.
+void maakUitvoerUtf8(const GeneratorInvoer& invoer, Werklijsten& werk, std::string& uit);
+void maakProjektUtf8(const GeneratorInvoer& invoer, Werklijsten& werk, std::string& uit);
+void maakLibUtf8(const GeneratorInvoer& invoer, Werklijsten& werk, std::string& uit);
+void maakIncludeUtf8(const GeneratorInvoer& invoer, Werklijsten& werk, std::string& uit);
+void schrijfBronLijst(const GeneratorInvoer& invoer, Werklijsten& werk, std::string& uit);
 
 // The volume of a path as the generator compares it (the toolkit's own;
 // tests put another in place to produce sources on another volume).

@@ -55,7 +55,7 @@ TEST_F(Storing, AddLeavesOutNamesCMakeCannotNameAndSaysHowManyOnce)
     const std::vector<LogRegel> waarschuwingen = logRegels(wxLOG_Warning);
     ASSERT_EQ(waarschuwingen.size(), 1u);
     EXPECT_EQ(waarschuwingen[0].tekst, "5 names were left out: a CMake file cannot name a path that is not valid "
-                                       "UTF-8 or that contains \";\" or \"\\\".");
+                                       "UTF-8 or that contains \";\", \"\\\" or \"${\".");
 }
 
 TEST_F(Storing, TheLongestEntryStaysReachableInTheSourceList)

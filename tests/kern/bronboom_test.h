@@ -15,6 +15,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -63,19 +64,30 @@ inline int geefToolkitVlaggen(int modus)
     return modus == 1 ? (wxDIR_FILES | wxDIR_NO_FOLLOW) : (wxDIR_FILES | wxDIR_DIRS);
 }
 
-// What the toolkit collects, pattern by pattern, less the paths that do
-// not name an entry on disk: those hold a name that is not UTF-8, which the
-// toolkit reads as something else and the walk leaves out on purpose.
+// What the toolkit collects, pattern by pattern, less what the walk leaves
+// out on purpose: paths that do not name an entry on disk (a name that is
+// not UTF-8, which the toolkit reads as something else), entries that are
+// not regular files, and a directory's files a second time (reached again
+// through a link).
 inline wxArrayString verzamelPerPatroon(const wxString& map, const std::vector<wxString>& patronen,
                                         int vlaggen)
 {
-    wxArrayString alles, echt;
-    for (const wxString& p : patronen)
+    wxArrayString echt;
+    for (const wxString& p : patronen) {
+        wxArrayString alles;
         wxDir::GetAllFiles(map, &alles, p, vlaggen);
-    struct stat st;
-    for (const wxString& pad : alles)
-        if (::lstat(pad.fn_str(), &st) == 0)
-            echt.Add(pad);
+        std::set<std::string> gezien;
+        struct stat st;
+        for (const wxString& pad : alles) {
+            const std::string bytes(pad.fn_str());
+            const size_t slash = bytes.rfind('/');
+            char* echteMap = ::realpath(bytes.substr(0, slash).c_str(), nullptr);
+            const std::string sleutel = (echteMap ? echteMap : "") + bytes.substr(slash);
+            std::free(echteMap);
+            if (::stat(bytes.c_str(), &st) == 0 && S_ISREG(st.st_mode) && gezien.insert(sleutel).second)
+                echt.Add(pad);
+        }
+    }
     return echt;
 }
 

@@ -11,7 +11,9 @@
 #include <cstring>
 #include <random>
 #include <set>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -158,6 +160,51 @@ TEST(BronWandeling, NamesThatAreNotUtf8AreLeftOutAndCountedWhenTheyMatter)
     EXPECT_EQ(geefGevonden(boom, kern::ModusRecursief, &overgeslagen),
               "caf\xc3\xa9.c\ngoed.c\nmap\xc3\xa9/y.c\n");
     EXPECT_EQ(overgeslagen, 2u);
+}
+
+// Each real directory is read once, however many links lead to it; only
+// regular files count; a pseudo file system behind a link is not entered;
+// depth and path length do not matter.
+TEST(BronWandeling, EveryRealDirectoryOnceOnlyRegularFilesAnyDepth)
+{
+    TijdelijkeBoom boom;
+    // 500 levels of 10 characters: longer than any path the system takes
+    int fd = ::open(boom.pad("").c_str(), O_RDONLY | O_DIRECTORY);
+    for (int i = 0; i < 500; ++i) {
+        ::mkdirat(fd, "niveau1234", 0755);
+        const int onder = ::openat(fd, "niveau1234", O_RDONLY | O_DIRECTORY);
+        ::close(fd);
+        fd = onder;
+    }
+    ::close(::openat(fd, "laatste.c", O_WRONLY | O_CREAT, 0644));
+    ::close(fd);
+    for (int i = 0; i <= 22; ++i) {
+        const std::string map = "waaier/n" + std::to_string(i);
+        boom.maakBestand(map + "/x" + std::to_string(i) + ".c");
+        for (const char* link : {"/a", "/b"})
+            boom.maakLink("../n" + std::to_string(i + 1), map + link);
+    }
+    boom.maakMap("vlak/map.c");
+    boom.maakBestand("vlak/echt.c");
+    boom.maakLink("map.c", "vlak/link.c");
+    boom.maakLink("echt.c", "vlak/naar.c");
+    boom.maakLink("nergens", "vlak/kapot.c");
+    ::mkfifo(boom.pad("vlak/pijp.c").c_str(), 0600);
+    boom.maakLink(boom.pad(""), "vlak/terug");
+    boom.maakLink("/proc/self", "vlak/proc");
+    const auto geefAantal = [&](const wxString& map, int modus) {
+        kern::Families c;
+        c.c = true;
+        wxArrayString gevonden;
+        kern::verzamelBestanden(map, modus, c, gevonden);
+        std::set<wxString> namen;
+        for (const wxString& pad : gevonden)
+            namen.insert(pad.AfterLast('/'));
+        return namen.size() == gevonden.size() ? gevonden.size() : 0;
+    };
+    EXPECT_EQ(geefAantal(boom.map("waaier/n0"), kern::ModusRecursief), 23u);
+    EXPECT_EQ(geefAantal(boom.map("vlak"), kern::ModusMap), 2u);
+    EXPECT_EQ(geefAantal(boom.map(), kern::ModusRecursief), 23u + 1 + 2);
 }
 
 TEST(BronWandeling, UnreadableEntriesArePassedByAndTheWalkEnds)

@@ -298,7 +298,7 @@ TEST_F(Cli, NamesNoCMakeTextCanNameAreLeftOutWithOneMessage)
     const Uitslag u = voerUit("-m recursive -o n --c n -f 'n/a;b.c'");
     EXPECT_EQ(u.code, 0);
     EXPECT_EQ(u.fout, "klavermol-cli: 6 names were left out: a CMake file cannot name a path that is not valid UTF-8 "
-                      "or that contains \";\" or \"\\\".\n");
+                      "or that contains \";\", \"\\\" or \"${\".\n");
     kern::GeneratorInvoer in;
     in.uitvoerDir = map + "/n";
     in.bronnen.Add(map + "/n/goed.c");

@@ -2,6 +2,7 @@
 // grouping, the wrap and include-list thresholds, numbered references
 // inside longer numbers, and an early end.
 #include "kern/generator.h"
+#include "kern/selektie.h"
 
 #include <gtest/gtest.h>
 #include <wx/log.h>
@@ -104,6 +105,15 @@ TEST(Bronlijst, GroupsPerDirectoryWithHeadersAndTheOutputDirectory)
         EXPECT_EQ(samen(u.werk.groepPaden), g.paden) << g.mappen;
         EXPECT_EQ(samen(u.werk.groepNamen), g.namen) << g.mappen;
         EXPECT_EQ(samen(u.werk.includeDirs), g.includes) << g.mappen;
+        // the same from the store, where an unchecked entry is passed by
+        kern::BronSelektie selektie;
+        selektie.voegToe("/weg/niet.c");
+        selektie.zetAangevinkt(0, false);
+        for (const wxString& b : g.bronnen)
+            selektie.voegToe(b);
+        kern::GeneratorInvoer uitSelektie = maakInvoer(g.uitvoer);
+        uitSelektie.selektie = &selektie;
+        EXPECT_EQ(geefLijst(uitSelektie).tekst, u.tekst) << g.mappen;
     }
 }
 

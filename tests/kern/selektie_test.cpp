@@ -1,4 +1,5 @@
 #include "kern/selektie.h"
+#include "kern/bronzoeker.h"
 
 #include <gtest/gtest.h>
 
@@ -43,12 +44,40 @@ TEST(BronSelektie, OnlyPathsWithoutSemicolonOrBackslashCanBeNamedInCMake)
 {
     for (const char* pad : {"/p/met spatie.c", "/p/haak(1).c", "/p/geld$.c", "/p/hek#.c", "/p/\"a\".c", "/p/caf\u00e9.c"})
         EXPECT_TRUE(kern::kanCMakeNoemen(wxString::FromUTF8(pad))) << pad;
-    for (const char* pad : {"/p/a;b.c", "/p;q/a.c", "/p/a\\b.c"})
+    for (const char* pad : {"/p/a;b.c", "/p;q/a.c", "/p/a\\b.c", "/p/dollar${HOME}.c", "/p/${x}/a.c"})
         EXPECT_FALSE(kern::kanCMakeNoemen(pad)) << pad;
     EXPECT_EQ(kern::geefOvergeslagenMelding(3),
               "3 names were left out: a CMake file cannot name a path that is not valid UTF-8 or that contains "
-              "\";\" or \"\\\".");
+              "\";\", \"\\\" or \"${\".");
 }
 
 } // namespace
 
+
+// The compact form gives every path back as it was added, also one without
+// a separator; check marks flip per directory; a walk's find is taken
+// pattern by pattern, leaving out and counting what CMake cannot name.
+TEST(BronSelektie, CompactEntriesMarksAndFinds)
+{
+    kern::BronSelektie s;
+    for (const char* pad : {"/p/a.c", "los.c", "/x.c", "/p/q/b.c", "/p/c.h", "/p/"})
+        ASSERT_TRUE(s.voegToe(wxString(pad))) << pad;
+    s.wisselMap(0);
+    wxString uit;
+    for (size_t i = 0; i < s.aantal(); ++i)
+        uit << s.geef(i) << (s.isAangevinkt(i) ? "+ " : "- ");
+    EXPECT_EQ(uit, "/p/a.c- los.c+ /x.c+ /p/q/b.c+ /p/c.h- /p/- ");
+    EXPECT_EQ(s.zoek("/p/c.h"), 4);
+    EXPECT_EQ(s.zoek("/p/c"), -1);
+
+    kern::Vondst v;
+    v.mappen = {"/p/", "/r${X}/"};
+    v.namen = std::string("a.c\0n.c\0d${a}.h\0", 16);
+    v.perPatroon = {{{0, 0}, {1, 4}, {0, 4}}, {{0, 8}, {0, 4}}};
+    std::size_t overgeslagen = 0;
+    wxString dubbel;
+    EXPECT_EQ(s.voegToe(v, [&](const wxString& p) { dubbel << p << " "; }, overgeslagen), 1u);
+    EXPECT_EQ(overgeslagen, 2u);
+    EXPECT_EQ(dubbel, "/p/a.c /p/n.c ");
+    EXPECT_EQ(s.geef(6), "/p/n.c");
+}

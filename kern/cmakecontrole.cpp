@@ -196,20 +196,23 @@ wxString geefOordeel(int soort, bool bouw, bool gelukt, int fouten, int waarschu
         return wxString::Format(bouw ? wxPLURAL("The build stopped with %d error", "The build stopped with %d errors", fouten)
                                      : wxPLURAL("CMake stopped with %d error", "CMake stopped with %d errors", fouten),
                                 fouten);
-    // One text per kind and stage, so that each translates whole.
-    static const char* const teksten[2][3][2] = {
-        {{"CMake configured the project: no errors, %d warning", "CMake configured the project: no errors, %d warnings"},
-         {"CMake configured the library: no errors, %d warning", "CMake configured the library: no errors, %d warnings"},
-         {"CMake configured the include file: no errors, %d warning",
-          "CMake configured the include file: no errors, %d warnings"}},
-        {{"CMake configured and built the project: no errors, %d warning",
-          "CMake configured and built the project: no errors, %d warnings"},
-         {"CMake configured and built the library: no errors, %d warning",
-          "CMake configured and built the library: no errors, %d warnings"},
-         {"CMake configured and built the include file: no errors, %d warning",
-          "CMake configured and built the include file: no errors, %d warnings"}}};
-    const auto& paar = teksten[bouw ? 1 : 0][soort >= 0 && soort <= 2 ? soort : 0];
-    return wxString::Format(wxGetTranslation(paar[0], paar[1], static_cast<unsigned>(waarschuwingen)), waarschuwingen);
+    // One text per stage and kind, so that each translates whole.
+    const unsigned n = static_cast<unsigned>(waarschuwingen);
+    const wxString teksten[] = {
+        wxPLURAL("CMake configured the project: no errors, %d warning",
+                 "CMake configured the project: no errors, %d warnings", n),
+        wxPLURAL("CMake configured the library: no errors, %d warning",
+                 "CMake configured the library: no errors, %d warnings", n),
+        wxPLURAL("CMake configured the include file: no errors, %d warning",
+                 "CMake configured the include file: no errors, %d warnings", n),
+        wxPLURAL("CMake configured and built the project: no errors, %d warning",
+                 "CMake configured and built the project: no errors, %d warnings", n),
+        wxPLURAL("CMake configured and built the library: no errors, %d warning",
+                 "CMake configured and built the library: no errors, %d warnings", n),
+        wxPLURAL("CMake configured and built the include file: no errors, %d warning",
+                 "CMake configured and built the include file: no errors, %d warnings", n)};
+    const int keuze = (bouw ? 3 : 0) + (soort >= 0 && soort <= 2 ? soort : 0);
+    return wxString::Format(teksten[keuze], waarschuwingen);
 }
 
 ControleUitslag CMakeControle::voerUit(const ControleOpdracht& opdracht, const RegelOntvanger& ontvanger)

@@ -13,6 +13,20 @@ wxDEFINE_EVENT(EVT_CMAKE_CONTROLE_KLAAR, wxCommandEvent);
 
 wxIMPLEMENT_DYNAMIC_CLASS(CMakeControleDialoog, wxDialog);
 
+namespace {
+
+// A file below the output directory by its path from there, others in full.
+wxString toonbaar(const wxString& bestand, const wxString& uitvoerDir)
+{
+    wxFileName naam(bestand);
+    if (!naam.IsAbsolute() || !bestand.StartsWith(wxFileName::DirName(uitvoerDir).GetFullPath()))
+        return bestand;
+    naam.MakeRelativeTo(uitvoerDir);
+    return naam.GetFullPath();
+}
+
+} // namespace
+
 wxBEGIN_EVENT_TABLE(CMakeControleDialoog, wxDialog)
     EVT_BUTTON(CMakeControleDialoog::OpnieuwID, CMakeControleDialoog::OnOpnieuwClick)
     EVT_UPDATE_UI(CMakeControleDialoog::OpnieuwID, CMakeControleDialoog::OnOpnieuwUpdate)
@@ -43,7 +57,7 @@ bool CMakeControleDialoog::Create(wxWindow* ouder, wxWindowID id, const wxString
                           wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER, naam))
         return false;
     CreateControls();
-    GetSizer()->SetSizeHints(this);
+    SetMinSize(FromDIP(wxSize(480, 360)));
     SetSize(FromDIP(wxSize(760, 560)));
     Centre(wxBOTH);
     return true;
@@ -137,7 +151,7 @@ void CMakeControleDialoog::toonUitslag(const kern::ControleUitslag& klaar)
     const wxString ernst[] = {_("Error"), _("Warning"), _("Note")};
     for (const kern::CMakeMelding& m : uitslag.meldingen) {
         const long rij = meldingLijst->InsertItem(meldingLijst->GetItemCount(), ernst[static_cast<int>(m.ernst)]);
-        meldingLijst->SetItem(rij, 1, m.bestand);
+        meldingLijst->SetItem(rij, 1, toonbaar(m.bestand, opdracht.uitvoerDir));
         meldingLijst->SetItem(rij, 2, m.regel > 0 ? wxString::Format("%d", m.regel) : wxString());
         meldingLijst->SetItem(rij, 3, m.tekst);
     }

@@ -158,7 +158,9 @@ std::vector<CMakeMelding> leesMeldingen(const wxArrayString& regels, const wxStr
         if (inMelding && (regel.empty() || regel[0] == ' ')) {
             const wxString stuk = regel.Strip(wxString::both);
             wxString& tekst = meldingen.back().tekst;
-            if (!stuk.empty())
+            if (stuk.StartsWith("Tried extensions"))
+                inMelding = false; // the rest of the message is CMake's search list
+            else if (!stuk.empty())
                 tekst += (tekst.empty() ? "" : " ") + stuk;
             continue;
         }

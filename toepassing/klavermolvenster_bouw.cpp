@@ -308,8 +308,7 @@ void KlavermolVenster::CreateControls()
     auto* bewaarRij = new wxBoxSizer(wxHORIZONTAL);
     bewaarDeel->Add(bewaarRij, 1, wxGROW | wxALL, 0);
     bewaarRij->Add(new wxButton(uitvoerenOuder, wxID_SAVE, _("&Save")), 1, wxGROW | wxALL, 0);
-    auto* controleKnop = new wxButton(uitvoerenOuder, CMakeControleID, _("Check"), wxDefaultPosition,
-                                      wxDefaultSize, wxBU_EXACTFIT);
+    auto* controleKnop = new wxButton(uitvoerenOuder, CMakeControleID, _("Check"));
     controleKnop->SetToolTip(_("Check with CMake (F7)"));
     bewaarRij->Add(controleKnop, 0, wxGROW | wxLEFT, 4);
     bewaarDeel->Add(new wxButton(uitvoerenOuder, wxID_EXIT, _("&Quit"), wxDefaultPosition, wxDefaultSize, 0,

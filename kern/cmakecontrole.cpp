@@ -5,6 +5,7 @@
 #include <wx/regex.h>
 #include <wx/thread.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -195,7 +196,8 @@ std::vector<CMakeMelding> leesMeldingen(const wxArrayString& regels, const wxStr
 wxString geefOordeel(int soort, bool bouw, bool gelukt, int fouten, int waarschuwingen)
 {
     if (!gelukt)
-        return wxString::Format(bouw ? wxPLURAL("The build stopped with %d error", "The build stopped with %d errors", fouten)
+        return wxString::Format(bouw ? wxPLURAL("The build stopped with %d error",
+                                                "The build stopped with %d errors", fouten)
                                      : wxPLURAL("CMake stopped with %d error", "CMake stopped with %d errors", fouten),
                                 fouten);
     // One text per stage and kind, so that each translates whole.

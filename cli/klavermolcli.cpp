@@ -3,6 +3,7 @@
 // main window's Add does, and the text is the one Execute would show.
 #include "kern/bestand.h"
 #include "kern/bronzoeker.h"
+#include "kern/cmakecontrole.h"
 #include "kern/instellingenbestand.h"
 #include "kern/namen.h"
 #include "kern/generator.h"
@@ -17,6 +18,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <fcntl.h>
 #include <memory>
 #include <set>
@@ -47,6 +49,8 @@ const wxCmdLineEntryDesc beschrijving[] = {
     {wxCMD_LINE_OPTION, nullptr, "include", "an existing .cmake include file (repeatable)", wxCMD_LINE_VAL_STRING,
      wxCMD_LINE_PARAM_MULTIPLE},
     {wxCMD_LINE_SWITCH, "w", "write", "save to OUTPUT-DIR/<file name> instead of printing"},
+    {wxCMD_LINE_OPTION, nullptr, "check",
+     "after -w: configure the written file with cmake (--check), or configure and build it (--check=build)"},
     {wxCMD_LINE_OPTION, nullptr, "settings", "take the templates from this settings file"},
     {wxCMD_LINE_SWITCH, "h", "help", "show this help", wxCMD_LINE_VAL_NONE, wxCMD_LINE_OPTION_HELP},
     {wxCMD_LINE_PARAM, nullptr, nullptr, "DIR", wxCMD_LINE_VAL_STRING,
@@ -330,8 +334,35 @@ bool verzamel(const wxCmdLineParser& parser, int modus, kern::GeneratorInvoer& i
     return true;
 }
 
+// Runs cmake on the written file; its messages and the verdict on stderr.
+int controleer(const kern::GeneratorInvoer& invoer, const wxString& pad, bool bouw)
+{
+    if (kern::zoekCMake().empty()) {
+        faal(kern::geefGeenCMakeMelding());
+        return Fout;
+    }
+    kern::CMakeControle controle;
+    const kern::ControleUitslag uitslag =
+        controle.voerUit({invoer.soort, pad, invoer.uitvoerDir, bouw}, {});
+    static const char* const ernst[] = {"error", "warning", "note"};
+    for (const kern::CMakeMelding& m : uitslag.meldingen) {
+        const wxString plaats = m.bestand.empty() ? wxString("cmake")
+                                : m.regel > 0     ? wxString::Format("%s:%d", m.bestand, m.regel)
+                                                  : m.bestand;
+        meld(plaats + ": " + ernst[static_cast<int>(m.ernst)] + ": " + m.tekst);
+    }
+    meld(uitslag.oordeel);
+    return uitslag.gelukt ? Gelukt : Fout;
+}
+
 int voerUit(const wxCmdLineParser& parser)
 {
+    wxString controle;
+    const bool metControle = parser.Found("check", &controle);
+    if (metControle && ((controle != "configure" && controle != "build") || !heeftSchakelaar(parser, "write"))) {
+        faal("--check takes no value or \"build\", and needs -w");
+        return VerkeerdGebruik;
+    }
     kern::GeneratorInvoer invoer;
     kern::BronSelektie selektie;
     int modus = 0;
@@ -361,7 +392,7 @@ int voerUit(const wxCmdLineParser& parser)
     const wxString pad = wxFileName(invoer.uitvoerDir, bestandNaam).GetFullPath();
     wxString reden;
     if (kern::schrijfTekstBestand(pad, tekst, &reden))
-        return Gelukt;
+        return metControle ? controleer(invoer, pad, controle == "build") : Gelukt;
     faal("Failed to open output file " + pad + " for writing to.\n" + reden);
     return Fout;
 }
@@ -380,6 +411,11 @@ int main(int argc, char** argv)
         return Fout;
     }
     delete wxLog::SetActiveTarget(new FoutTeller);
+    // "--check" stands alone or takes "=build"; the parser wants a value.
+    static char alleenCheck[] = "--check=configure";
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], "--check") == 0)
+            argv[i] = alleenCheck;
     wxCmdLineParser parser(beschrijving, argc, argv);
     parser.SetLogo("klavermol-cli writes the CMake file Klavermol's Execute would show.");
     // The parser reports a wrong call itself; the usage follows it on

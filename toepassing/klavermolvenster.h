@@ -64,7 +64,8 @@ enum
     GebruikSourceDirNaamID = 10030,
     ZetTaalID = 10031,
     VorigeLokatieID = 10032,
-    CMakeBiebKeuzeID = 10033
+    CMakeBiebKeuzeID = 10033,
+    CMakeControleID = 10034
 };
 
 class KlavermolVenster : public wxFrame
@@ -128,6 +129,12 @@ public:
     void OnGenerateCMakeHandler(wxCommandEvent& event);
     void SlaOpCMakeHandler(wxCommandEvent& event);
     void OnZetAlsUitvoerIDClick(wxCommandEvent& event);
+
+    // --- handlers: checking the saved file with cmake (klavermolvenster_controle.cpp)
+    void OnCMakeControleIDClick(wxCommandEvent& event);
+    void OnCMakeControleIDUpdate(wxUpdateUIEvent& event);
+    wxString geefControleBestand() const;
+    void springNaarRegel(int regel);
 
     // --- handlers: general menu (klavermolvenster_algemeen.cpp)
     void sluitHandler(wxCommandEvent& event);

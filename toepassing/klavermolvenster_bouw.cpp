@@ -90,6 +90,9 @@ void KlavermolVenster::CreateControls()
         voegMenuItemToe(opties, id, wxGetTranslation(label), wxNullBitmap, wxITEM_CHECK);
         opties->Check(id, true);
     }
+    opties->AppendSeparator();
+    voegMenuItemToe(opties, CMakeControleID, _("Check with CMake\tF7"), wxNullBitmap, wxITEM_NORMAL,
+                    _("Run cmake on the saved file in a temporary build directory"));
     menuBalk->Append(opties, _("Options"));
     SetMenuBar(menuBalk);
 
@@ -297,7 +300,12 @@ void KlavermolVenster::CreateControls()
     uitvoerenKader->Add(uitvoerKnop, 0, wxALIGN_CENTER_VERTICAL | wxALL, 5);
     auto* bewaarDeel = new wxBoxSizer(wxVERTICAL);
     uitvoerenKader->Add(bewaarDeel, 1, wxALIGN_CENTER_VERTICAL | wxALL, 0);
-    bewaarDeel->Add(new wxButton(uitvoerenOuder, wxID_SAVE, _("&Save")), 1, wxGROW | wxALL, 0);
+    auto* bewaarRij = new wxBoxSizer(wxHORIZONTAL);
+    bewaarDeel->Add(bewaarRij, 1, wxGROW | wxALL, 0);
+    bewaarRij->Add(new wxButton(uitvoerenOuder, wxID_SAVE, _("&Save")), 1, wxGROW | wxALL, 0);
+    auto* controleKnop = new wxButton(uitvoerenOuder, CMakeControleID, _("Check"));
+    controleKnop->SetToolTip(_("Check with CMake (F7)"));
+    bewaarRij->Add(controleKnop, 0, wxGROW | wxLEFT, 4);
     bewaarDeel->Add(new wxButton(uitvoerenOuder, wxID_EXIT, _("&Quit"), wxDefaultPosition, wxDefaultSize, 0,
                                  wxDefaultValidator, "sluitButton"),
                     0, wxGROW | wxALL, 0);

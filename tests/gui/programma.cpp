@@ -1,12 +1,18 @@
 #include "programma.h"
 
 #include <wx/app.h>
+#include <wx/choice.h>
+#include <wx/statusbr.h>
+#include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/filepicker.h>
 #include <wx/dialog.h>
 #include <wx/init.h>
 #include <wx/modalhook.h>
+#include <wx/uiaction.h>
 #include <wx/wfstream.h>
+
+#include <gtk/gtk.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -80,6 +86,10 @@ void ProgrammaTest::SetUp()
     thuis = map;
     eigenThuis = vorige == nullptr;
     setenv("HOME", map, 1);
+    // Temporary files and locks of this process stay in its own home.
+    const wxString tijdelijk = thuis + "/tmp";
+    wxFileName::Mkdir(tijdelijk, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+    setenv("TMPDIR", tijdelijk.ToStdString().c_str(), 1);
     setenv("XDG_CONFIG_HOME", (thuis + "/.config").ToStdString().c_str(), 1);
     // A fixed system language, so that nothing depends on the machine.
     setenv("LC_ALL", "en_US.UTF-8", 1);
@@ -215,6 +225,76 @@ void ProgrammaTest::kiesZoekMap(const wxString& pad)
     venster().vindBestandenInDirs->SetPath(pad);
     wxFileDirPickerEvent e(wxEVT_DIRPICKER_CHANGED, venster().vindBestandenInDirs, VindBestandenInDirsID, pad);
     venster().ProcessWindowEvent(e);
+}
+
+void ProgrammaTest::wachtTot(const std::function<bool()>& klaar)
+{
+    wxTheApp->ProcessPendingEvents();
+    while (!klaar()) {
+        g_main_context_iteration(nullptr, TRUE);
+        wxTheApp->ProcessPendingEvents();
+    }
+}
+
+namespace {
+
+// The splash screen stays on top for its two seconds; real input is meant
+// for the main window.
+void zonderSplash()
+{
+    if (wxSplashScreen* splash = wxGetApp().geefSplash())
+        splash->Destroy();
+}
+
+} // namespace
+
+void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort)
+{
+    zonderSplash();
+    bool gekomen = false;
+    auto gezien = [&](wxEvent& e) {
+        gekomen = true;
+        e.Skip();
+    };
+    const wxEventTypeTag<wxEvent> tag(soort);
+    w->Bind(tag, gezien);
+    wxUIActionSimulator sim;
+    sim.MouseMove(w->GetScreenRect().GetPosition() + w->GetSize() / 2);
+    sim.MouseClick();
+    wachtTot([&] { return gekomen; });
+    w->Unbind(tag, gezien);
+    verwerk();
+}
+
+void ProgrammaTest::typIn(wxTextCtrl* veld, const wxString& tekst)
+{
+    klikOp(veld, wxEVT_LEFT_UP);
+    wachtTot([&] { return wxWindow::FindFocus() == veld; });
+    bool enter = false;
+    auto gezien = [&](wxKeyEvent& e) {
+        enter = enter || e.GetKeyCode() == WXK_RETURN;
+        e.Skip();
+    };
+    veld->Bind(wxEVT_KEY_DOWN, gezien);
+    wxUIActionSimulator sim;
+    sim.Char('a', wxMOD_CONTROL);
+    sim.Text(tekst.utf8_str());
+    sim.Char(WXK_RETURN);
+    wachtTot([&] { return enter; });
+    veld->Unbind(wxEVT_KEY_DOWN, gezien);
+    verwerk();
+}
+
+void ProgrammaTest::kiesRij(wxChoice* keuze, int rij)
+{
+    klikOp(venster().GetStatusBar(), wxEVT_LEFT_UP); // the window takes the keyboard
+    keuze->SetFocus();
+    wachtTot([&] { return wxWindow::FindFocus() == keuze; });
+    wxUIActionSimulator sim;
+    for (int i = keuze->GetSelection(); i != rij; i += rij > i ? 1 : -1)
+        sim.Char(rij > i ? WXK_DOWN : WXK_UP);
+    wachtTot([&] { return keuze->GetSelection() == rij; });
+    verwerk();
 }
 
 wxString ProgrammaTest::maakMap(const wxString& naam) const

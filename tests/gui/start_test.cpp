@@ -169,18 +169,18 @@ TEST_F(Start, ACorruptStoreIsKeptAndWhatCanBeReadIsUsed)
     EXPECT_EQ(leesInstellingen()->Read("/Configuratie/BestandNaamTekst"), "goed.txt");
 }
 
-// A stored size below what the contents need gives way to them; one no
-// window can have gives the default.
-TEST_F(Start, ValuesOfTheWrongTypeTakeTheirDefaultsAndSmallSizesGiveWay)
+// A size no window can have gives the default size, which gives way to
+// what the contents need.
+TEST_F(Start, ValuesOfTheWrongTypeOrSizeTakeTheirDefaults)
 {
     schrijfInstellingen("[Gebruikersinstellingen]\nEncoding=Nederlands\n"
-                        "[Gebruikersinstellingen/Venster]\nGrootteX=breed\nGrootteY=50\n"
+                        "[Gebruikersinstellingen/Venster]\nGrootteX=-99999\nGrootteY=50\n"
                         "[Configuratie]\nProjektsoort=bibliotheek\nVoegCBestandenToe=misschien\n");
     zetTaal(-1);
     start();
     EXPECT_EQ(app().geefTaal(), wxLocale::GetSystemLanguage());
     const wxSize inhoud = venster().GetSizer()->GetMinSize();
-    EXPECT_EQ(venster().GetClientSize(), wxSize(std::max(800, inhoud.x), inhoud.y));
+    EXPECT_EQ(venster().GetClientSize(), wxSize(std::max(800, inhoud.x), std::max(600, inhoud.y)));
     EXPECT_EQ(venster().uitvoerSoortKeuze->GetSelection(), 0);
     EXPECT_FALSE(venster().voegCBestandenToe.boolean());
 }

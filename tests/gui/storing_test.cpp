@@ -12,9 +12,7 @@
 #include <set>
 #include <fstream>
 
-class Storing : public ProgrammaTest
-{
-};
+using Storing = ProgrammaTest;
 
 TEST_F(Storing, AddLeavesOutNamesCMakeCannotNameAndSaysHowManyOnce)
 {

@@ -149,15 +149,6 @@ TEST_F(Venster, TheStateIsWrittenBackInFullAtExit)
         EXPECT_EQ(config->Read(sleutel, "missing"), waarde) << sleutel;
 }
 
-TEST_F(Venster, AStoredOutputKindOutOfRangeRaisesTheArrayIndexAssertion)
-{
-    schrijfInstellingen("[Configuratie]\nProjektsoort=3\n");
-    verwachtAssert("nIndex < m_nCount");
-    verwachtAssert("IsValid(n)");
-    start();
-    EXPECT_EQ(aantalAsserts("nIndex < m_nCount"), 1);
-}
-
 // Per output kind: which of the kind-bound controls and menu items are on,
 // with a sub-directory CMakeLists.txt and an include file chosen.
 TEST_F(Venster, EnablingFollowsTheOutputKind)

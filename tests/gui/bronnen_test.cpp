@@ -84,8 +84,9 @@ TEST_F(Bronnen, AboveTenFilesAddAsksAndKnownFilesAreReported)
     v.PushStatusText(welkom, 0);
 
     opdracht(wxEVT_CHECKBOX, VoegCBestandenToeID);
-    zoekIn(d, 1);
-    klik(wxID_ADD); // any dialog would fail the test
+    v.voegToeModeKeuze->SetSelection(1);
+    kiesZoekMap(d);
+    klikOp(v.FindWindow(wxID_ADD)); // any dialog would fail the test
     ASSERT_EQ(v.bestandSelektieLijst->GetCount(), 10u);
     EXPECT_EQ(status(), totaal(10));
     const std::vector<wxString> eerst = lijst();
@@ -96,12 +97,12 @@ TEST_F(Bronnen, AboveTenFilesAddAsksAndKnownFilesAreReported)
         return beantwoordVraag("11 files were found and will be added to the selection list.\nDo you want to proceed?",
                                "More than 10 files found", antwoord);
     };
-    wxTEST_DIALOG(klik(wxID_ADD), vraag(wxID_NO));
+    wxTEST_DIALOG(klikOp(v.FindWindow(wxID_ADD)), vraag(wxID_NO));
     EXPECT_EQ(lijst(), eerst);
     EXPECT_EQ(status(), totaal(0));
 
     v.selektieBoek->SetSelection(2);
-    wxTEST_DIALOG(klik(wxID_ADD), vraag(wxID_YES));
+    wxTEST_DIALOG(klikOp(v.FindWindow(wxID_ADD)), vraag(wxID_YES));
     std::vector<wxString> verwacht = eerst;
     verwacht.push_back(d + "/f10.c");
     EXPECT_EQ(lijst(), verwacht);

@@ -9,6 +9,7 @@
 #include <wx/dialog.h>
 #include <wx/init.h>
 #include <wx/modalhook.h>
+#include <wx/time.h>
 #include <wx/uiaction.h>
 #include <wx/wfstream.h>
 
@@ -227,30 +228,34 @@ void ProgrammaTest::kiesZoekMap(const wxString& pad)
     venster().ProcessWindowEvent(e);
 }
 
-void ProgrammaTest::wachtTot(const std::function<bool()>& klaar)
+void ProgrammaTest::wachtTot(const std::function<bool()>& klaar, const char* wat)
 {
+    const wxLongLong einde = wxGetLocalTimeMillis() + 30000;
+    // wakes the loop now and then to look at the clock
+    const guint wekker = g_timeout_add_seconds(1, [](gpointer) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr);
     wxTheApp->ProcessPendingEvents();
     while (!klaar()) {
+        if (wxGetLocalTimeMillis() > einde) {
+            ADD_FAILURE() << "still waiting for " << wat;
+            break;
+        }
         g_main_context_iteration(nullptr, TRUE);
         wxTheApp->ProcessPendingEvents();
     }
+    g_source_remove(wekker);
 }
-
-namespace {
-
-// The splash screen stays on top for its two seconds; real input is meant
-// for the main window.
-void zonderSplash()
-{
-    if (wxSplashScreen* splash = wxGetApp().geefSplash())
-        splash->Destroy();
-}
-
-} // namespace
 
 void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort)
 {
-    zonderSplash();
+    // The splash screen stays on top for its two seconds; real input is meant
+    // for the main window, so it goes first, also from the display.
+    if (wxSplashScreen* splash = app().geefSplash()) {
+        splash->Destroy();
+        wachtTot([this] { return app().geefSplash() == nullptr; }, "the splash screen to go");
+    }
+    // Active once the window manager has framed, placed and focused it.
+    wachtTot([this] { return venster().IsActive(); }, "the window to be active");
+    gdk_display_sync(gdk_display_get_default());
     bool gekomen = false;
     auto gezien = [&](wxEvent& e) {
         gekomen = true;
@@ -261,7 +266,7 @@ void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort)
     wxUIActionSimulator sim;
     sim.MouseMove(w->GetScreenRect().GetPosition() + w->GetSize() / 2);
     sim.MouseClick();
-    wachtTot([&] { return gekomen; });
+    wachtTot([&] { return gekomen; }, "the click");
     w->Unbind(tag, gezien);
     verwerk();
 }
@@ -269,7 +274,7 @@ void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort)
 void ProgrammaTest::typIn(wxTextCtrl* veld, const wxString& tekst)
 {
     klikOp(veld, wxEVT_LEFT_UP);
-    wachtTot([&] { return wxWindow::FindFocus() == veld; });
+    wachtTot([&] { return wxWindow::FindFocus() == veld; }, "the text field's focus");
     bool enter = false;
     auto gezien = [&](wxKeyEvent& e) {
         enter = enter || e.GetKeyCode() == WXK_RETURN;
@@ -280,7 +285,7 @@ void ProgrammaTest::typIn(wxTextCtrl* veld, const wxString& tekst)
     sim.Char('a', wxMOD_CONTROL);
     sim.Text(tekst.utf8_str());
     sim.Char(WXK_RETURN);
-    wachtTot([&] { return enter; });
+    wachtTot([&] { return enter; }, "the Enter key");
     veld->Unbind(wxEVT_KEY_DOWN, gezien);
     verwerk();
 }
@@ -289,11 +294,11 @@ void ProgrammaTest::kiesRij(wxChoice* keuze, int rij)
 {
     klikOp(venster().GetStatusBar(), wxEVT_LEFT_UP); // the window takes the keyboard
     keuze->SetFocus();
-    wachtTot([&] { return wxWindow::FindFocus() == keuze; });
+    wachtTot([&] { return wxWindow::FindFocus() == keuze; }, "the choice's focus");
     wxUIActionSimulator sim;
     for (int i = keuze->GetSelection(); i != rij; i += rij > i ? 1 : -1)
         sim.Char(rij > i ? WXK_DOWN : WXK_UP);
-    wachtTot([&] { return keuze->GetSelection() == rij; });
+    wachtTot([&] { return keuze->GetSelection() == rij; }, "the chosen row");
     verwerk();
 }
 

@@ -54,8 +54,9 @@ protected:
     // Picks `pad` in the search-location picker, as the user does.
     void kiesZoekMap(const wxString& pad);
 
-    // Runs the event loop until `klaar` holds; waits for events, not for time.
-    void wachtTot(const std::function<bool()>& klaar);
+    // Runs the event loop until `klaar` holds; waits for events, not for
+    // time. What never comes fails the test after half a minute, naming `wat`.
+    void wachtTot(const std::function<bool()>& klaar, const char* wat = "a condition");
     // Real input through the display: a mouse click in the middle of `w`
     // (returns once `w` has its event of type `soort`), and typing `tekst`
     // into a text field in place of what it holds, closed with Enter.

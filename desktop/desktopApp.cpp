@@ -2,6 +2,7 @@
 
 #include "kern/instellingen.h"
 
+#include <wx/display.h>
 #include <wx/html/htmprint.h>
 #include <wx/log.h>
 #include <wx/msgdlg.h>
@@ -46,6 +47,11 @@ DesktopApp::~DesktopApp()
 {
     delete htmlPrinter;
     htmlPrinter = nullptr;
+    schrijfEigenInstellingen();
+}
+
+void DesktopApp::schrijfEigenInstellingen()
+{
     config->Write(instelling::ToonHulpToolTipsPad, toonHulpToolTips.boolean());
 }
 
@@ -65,9 +71,19 @@ void DesktopApp::zetHoofdVenster(wxWindow* venster, bool metPrinten, bool)
 void DesktopApp::zetHoofdVensterGrootte()
 {
     config->SetPath(instelling::Venster);
-    const int x = static_cast<int>(config->ReadLong(instelling::GrootteX, instelling::StandaardGrootteX));
-    const int y = static_cast<int>(config->ReadLong(instelling::GrootteY, instelling::StandaardGrootteY));
-    hoofdVenster->SetClientSize(x, y);
+    wxSize grootte(static_cast<int>(config->ReadLong(instelling::GrootteX, instelling::StandaardGrootteX)),
+                   static_cast<int>(config->ReadLong(instelling::GrootteY, instelling::StandaardGrootteY)));
+    // A size no window can have gives the default; the next exit stores the
+    // size the window really has.
+    if (grootte.x <= 0 || grootte.y <= 0)
+        grootte = wxSize(instelling::StandaardGrootteX, instelling::StandaardGrootteY);
+    hoofdVenster->SetClientSize(grootte);
+    // Never smaller than the contents, never larger than the screen.
+    const wxRect scherm = wxDisplay(hoofdVenster).GetClientArea();
+    wxSize buiten = hoofdVenster->GetSize();
+    buiten.IncTo(hoofdVenster->GetMinSize());
+    buiten.DecTo(scherm.GetSize());
+    hoofdVenster->SetSize(buiten);
     hoofdVenster->Centre(wxBOTH);
 }
 

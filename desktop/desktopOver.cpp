@@ -26,13 +26,32 @@ void DesktopApp::toonCopyright(const wxString& webSite, const wxIcon& ikoon, con
     toonCopyright(info, beschrijving, credits);
 }
 
+namespace {
+
+// A credit "name (web address)" goes in as two lines, the address on its own:
+// the about box shows it so (as a link where the toolkit can), where it would
+// otherwise turn the name into a link and lose the address.
+void voegCreditToe(wxArrayString& lijst, const wxString& credit)
+{
+    const int open = credit.Find(" (http");
+    if (open == wxNOT_FOUND || !credit.EndsWith(")")) {
+        lijst.Add(credit);
+        return;
+    }
+    const size_t begin = static_cast<size_t>(open) + 2;
+    lijst.Add(credit.Left(static_cast<size_t>(open)));
+    lijst.Add(credit.Mid(begin, credit.length() - begin - 1));
+}
+
+} // namespace
+
 void DesktopApp::toonCopyright(wxAboutDialogInfo& info, const wxString& beschrijving, const wxArrayString& credits) const
 {
     const wxString platform = geefPlatformBeschrijving();
     wxArrayString lijst;
-    lijst.Add(_("The wxWidgets cross-platform GUI toolkit (https://www.wxwidgets.org)"));
+    voegCreditToe(lijst, _("The wxWidgets cross-platform GUI toolkit (https://www.wxwidgets.org)"));
     for (const wxString& c : credits)
-        lijst.Add("\n" + c);
+        voegCreditToe(lijst, "\n" + c);
     info.SetDescription(platform + "\n\n" + beschrijving);
     info.SetDevelopers(lijst);
     if (hoofdVenster == nullptr)

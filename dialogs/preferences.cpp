@@ -11,6 +11,10 @@
 #include <wx/textctrl.h>
 #include <wx/valtext.h>
 
+#ifdef __WXGTK__
+#include <gtk/gtk.h>
+#endif
+
 namespace {
 
 // The page images, by the names the artwork has always had, in page order.
@@ -49,6 +53,14 @@ bool Preferences::Create(wxWindow* ouder, wxWindowID id, const wxString& titel, 
         return false;
     CreateButtons(wxOK | wxCANCEL | wxHELP);
     CreateControls();
+#ifdef __WXGTK__
+    // Every tab in sight, without scroll arrows: the book is as wide as its tabs.
+    GtkNotebook* boek = GTK_NOTEBOOK(GetBookCtrl()->GetHandle());
+    gtk_notebook_set_scrollable(boek, FALSE);
+    gint tabBreedte = 0;
+    gtk_widget_get_preferred_width(GTK_WIDGET(boek), &tabBreedte, nullptr);
+    GetBookCtrl()->SetMinSize(wxSize(tabBreedte, -1));
+#endif
     LayoutDialog(wxBOTH);
     return true;
 }

@@ -9,6 +9,20 @@
 #include <wx/splash.h>
 #include <wx/statusbr.h>
 
+namespace {
+
+// On GTK a border style makes the toolkit drop the title bar and the window
+// manager's functions (move, resize, maximise): it is left out there.
+#ifdef __WXGTK__
+constexpr long randStijl = 0;
+#else
+constexpr long randStijl = wxBORDER_SIMPLE;
+#endif
+constexpr long hoofdVensterStijl = wxCAPTION | randStijl | wxCLOSE_BOX | wxSYSTEM_MENU | wxMINIMIZE_BOX
+    | wxMAXIMIZE_BOX | wxRESIZE_BORDER;
+
+} // namespace
+
 Klavermol::Klavermol()
     : DesktopApp("Klavermol", "kvl", wxString()), splash(nullptr), splashStatus(nullptr), venster(nullptr)
 {
@@ -20,8 +34,7 @@ bool Klavermol::OnInit()
     wxImage::AddHandler(new wxPNGHandler);
 
     venster = new KlavermolVenster(nullptr, 10000, _("KlavermolVenster"), wxDefaultPosition, wxDefaultSize,
-                                   wxCAPTION | wxBORDER_SIMPLE | wxCLOSE_BOX | wxSYSTEM_MENU | wxMINIMIZE_BOX
-                                       | wxMAXIMIZE_BOX | wxRESIZE_BORDER);
+                                   hoofdVensterStijl);
     if (venster == nullptr)
         return false;
 
@@ -45,6 +58,17 @@ bool Klavermol::OnInit()
     wxASSERT(true == konStarten);
     splash->Raise(); // over the main window also where no window manager keeps it on top
     return true;
+}
+
+bool Klavermol::OnExceptionInMainLoop()
+{
+    // The program ends on an error no handler catches, but what the user set
+    // is written first, as at a normal exit.
+    if (venster != nullptr)
+        venster->bewaarToestand();
+    schrijfEigenInstellingen();
+    bewaarInstellingen();
+    throw;
 }
 
 Klavermol& wxGetApp()

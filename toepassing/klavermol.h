@@ -14,6 +14,7 @@ public:
     Klavermol();
 
     bool OnInit() override;
+    bool OnExceptionInMainLoop() override;
 
     KlavermolVenster* geefVenster() const { return venster; }
     wxSplashScreen* geefSplash() const { return splash; }

@@ -2,7 +2,7 @@
 
 #include "afbeeldingen.h"
 #include "kern/instellingen.h"
-#include "toepassing/bestanddroptarget.h"
+#include "toepassing/padveld.h"
 #include "toepassing/klavermol.h"
 #include "toepassing/lijstblok.h"
 
@@ -184,8 +184,8 @@ void KlavermolVenster::herstelToestand()
     const wxString thuis = wxGetHomeDir();
     config.SetPath(instelling::Configuratie);
 
-    vindBestandenInDirs->SetPath(config.Read(instelling::DirPad, thuis));
-    outputDirPicker->SetPath(config.Read(instelling::UitvoerDirPad, thuis));
+    vindBestandenInDirs->SetPath(normaleMap(config.Read(instelling::DirPad, thuis)));
+    outputDirPicker->SetPath(normaleMap(config.Read(instelling::UitvoerDirPad, thuis)));
     projektLibIncludeNaam->ChangeValue(config.Read(instelling::Projektnaam, _("MyFirstProject")));
     const int soort = static_cast<int>(config.ReadLong(instelling::Projektsoort, 0));
     uitvoerSoortKeuze->SetSelection(soort);
@@ -209,9 +209,6 @@ void KlavermolVenster::herstelToestand()
     voegHBestandenToe = config.ReadBool(instelling::VoegHBestandenToe, false);
     voegSBestandenToe = config.ReadBool(instelling::VoegSBestandenToe, false);
 
-    // One refresh of the rules first, so that the automatic output directory
-    // follows the restored output kind (never for a project).
-    DoMenuUpdates();
     OnSelekteerBestandType();
     onderzoekPadOpBestanden();
 
@@ -225,7 +222,7 @@ void KlavermolVenster::herstelToestand()
     bronSelektie.wis();
     werklijsten.leeg();
 
-    vindBestandenInDirs->SetDropTarget(new BestandDropTarget(this));
+    koppelPadVelden();
     PushStatusText(_("Welkom bij Klavermol !!"), 0);
 }
 

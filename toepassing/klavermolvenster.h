@@ -20,6 +20,7 @@ class wxCheckBox;
 class wxCheckListBox;
 class wxChoice;
 class wxDirPickerCtrl;
+class wxFileDirPickerCtrlBase;
 class wxFileDirPickerEvent;
 class wxFilePickerCtrl;
 class wxNotebook;
@@ -236,13 +237,24 @@ public:
     // name is counted in `overgeslagen`. Returns how many were added.
     int voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen);
 
+    // Whether a probe moves the output directory to the search location: not
+    // for a project, and only while "Autoset output dir" is checked.
+    bool moetUitvoerMapVolgen() const;
+    // Whether the search location exists; says so in the status bar if not.
+    bool zoekMapBestaat();
+
+    // Writes the window's settings into the store (at the end, or before an
+    // error ends the program).
+    void bewaarToestand();
+
 private:
     void Init();
     void herstelToestand();
-    void bewaarToestand();
     void zetSchakelaar(StandSchakelaar& schakelaar, int id, wxCheckBox* keuze);
     void wisselSchakelaar(StandSchakelaar& schakelaar);
     wxArrayString kiesBestanden(const wxString& map);
     void toonHuidigeLokatie();
+    void koppelPadVelden();
+    void neemGetyptPad(wxFileDirPickerCtrlBase* kiezer);
     void schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&));
 };

@@ -12,7 +12,6 @@
 #include <wx/notebook.h>
 #include <wx/panel.h>
 #include <wx/radiobox.h>
-#include <wx/scrolwin.h>
 #include <wx/sizer.h>
 #include <wx/statbox.h>
 #include <wx/statusbr.h>
@@ -98,12 +97,9 @@ void KlavermolVenster::CreateControls()
 
     auto* frameSizer = new wxBoxSizer(wxHORIZONTAL);
     SetSizer(frameSizer);
-    // A panel that scrolls when the window is smaller than its contents, so
-    // that every size down to a small one stays usable.
-    auto* paneel = new wxScrolledWindow(this, PaneelID, wxDefaultPosition, wxDefaultSize,
-                                        wxSUNKEN_BORDER | wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
-    paneel->SetScrollRate(10, 10);
-    paneel->SetMinSize(wxSize(10, 10));
+    // The panel's minimum is its contents': the frame's size hints come from
+    // it, so no control is ever cut off.
+    auto* paneel = new wxPanel(this, PaneelID, wxDefaultPosition, wxDefaultSize, wxSUNKEN_BORDER | wxTAB_TRAVERSAL);
     paneel->SetBackgroundColour(wxColour(0, 238, 168));
     frameSizer->Add(paneel, 1, wxGROW | wxALL, 5);
     auto* paneelSizer = new wxBoxSizer(wxVERTICAL);
@@ -286,7 +282,7 @@ void KlavermolVenster::CreateControls()
     auto* tekstKader = new wxStaticBoxSizer(wxVERTICAL, paneel, _("CMake generated output"));
     rechts->Add(tekstKader, 1, wxGROW | wxALL, 5);
     uitvoerTekst = new wxTextCtrl(tekstKader->GetStaticBox(), UitvoerTekstID, wxEmptyString, wxDefaultPosition,
-                                  wxSize(-1, 300), wxTE_MULTILINE | wxTE_DONTWRAP | wxHSCROLL);
+                                  wxSize(-1, 300), wxTE_MULTILINE | wxTE_DONTWRAP | wxHSCROLL | wxTE_READONLY);
     uitvoerTekst->SetMinSize(wxSize(-1, 100)); // 300 high at first, but the window may be smaller
     tekstKader->Add(uitvoerTekst, 1, wxGROW | wxALL, 0);
 
@@ -309,8 +305,6 @@ void KlavermolVenster::CreateControls()
     bewaarDeel->Add(new wxButton(uitvoerenOuder, wxID_EXIT, _("&Quit"), wxDefaultPosition, wxDefaultSize, 0,
                                  wxDefaultValidator, "sluitButton"),
                     0, wxGROW | wxALL, 0);
-
-    paneel->FitInside(); // the contents' own size, scrolled into view when the window is smaller
 
     auto* status = new wxStatusBar(this, StatusBalkID, wxSTB_SIZEGRIP | wxSUNKEN_BORDER);
     status->SetFieldsCount(2);

@@ -4,6 +4,7 @@
 
 #include "kern/namen.h"
 #include "kern/tekst.h"
+#include "toepassing/padveld.h"
 
 #include <wx/checklst.h>
 #include <wx/choice.h>
@@ -30,7 +31,7 @@ kern::GeneratorInvoer KlavermolVenster::geefGeneratorInvoer() const
     for (size_t k = 0; k < includeBestanden.size(); ++k)
         invoer.includes.push_back({includeBestanden[k], includeLijst->IsChecked(static_cast<unsigned>(k))});
 
-    invoer.uitvoerDir = outputDirPicker->GetPath();
+    invoer.uitvoerDir = normaleMap(outputDirPicker->GetPath());
     invoer.soort = uitvoerSoortKeuze->GetSelection();
     invoer.projektType = cmakeProjektKeuze->GetSelection();
     invoer.biebType = cmakeBiebKeuze->GetSelection();

@@ -2,6 +2,7 @@
 #include "toepassing/klavermolvenster.h"
 
 #include "dialogs/recentelokatievenster.h"
+#include "toepassing/padveld.h"
 
 #include <wx/dirdlg.h>
 #include <wx/filepicker.h>
@@ -14,7 +15,7 @@ void KlavermolVenster::OnHomeKnopClick(wxCommandEvent& event)
 
 void KlavermolVenster::toonHuidigeLokatie()
 {
-    vindBestandenInDirs->SetPath(lokatieGeschiedenis.geefHuidigVoorwerp().GetFullPath(wxPATH_NATIVE));
+    vindBestandenInDirs->SetPath(normaleMap(lokatieGeschiedenis.geefHuidigVoorwerp().GetFullPath(wxPATH_NATIVE)));
     onderzoekPadOpBestanden();
 }
 
@@ -69,5 +70,5 @@ void KlavermolVenster::OnVorigeLokatieIDClick(wxCommandEvent&)
         return;
     const int gekozen = dialoog.geefGekozenPad();
     if (gekozen >= 0 && static_cast<size_t>(gekozen) < paden.size())
-        vindBestandenInDirs->SetPath(paden[static_cast<size_t>(gekozen)]);
+        vindBestandenInDirs->SetPath(normaleMap(paden[static_cast<size_t>(gekozen)]));
 }

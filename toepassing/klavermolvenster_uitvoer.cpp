@@ -3,6 +3,7 @@
 #include "toepassing/klavermolvenster.h"
 
 #include "kern/bestand.h"
+#include "toepassing/padveld.h"
 
 #include <wx/checklst.h>
 #include <wx/choice.h>
@@ -57,7 +58,7 @@ void KlavermolVenster::OnGebruikSourceDirNaamIDClick(wxCommandEvent&)
 
 void KlavermolVenster::OnZetAlsUitvoerIDClick(wxCommandEvent&)
 {
-    outputDirPicker->SetPath(vindBestandenInDirs->GetPath());
+    outputDirPicker->SetPath(normaleMap(vindBestandenInDirs->GetPath()));
 }
 
 void KlavermolVenster::outputDirVeranderdHandler(wxFileDirPickerEvent& event)
@@ -93,6 +94,11 @@ void KlavermolVenster::OnVoegToeCMakeSubDirIDClick(wxCommandEvent&)
     subDirBiebNamen.Add(vraag.GetValue());
     voegRijToe(biebLijst, selektieBoek, BiebPagina, map);
     SetStatusText(bestand.GetFullName() + _(" was added to your selection list."), 0);
+    if (!ligtIn(map, normaleMap(outputDirPicker->GetPath())))
+        SetStatusText(wxString::Format(_("%s lies outside the output directory: CMake's add_subdirectory needs a "
+                                         "binary directory for it."),
+                                       map),
+                      0);
     recenteLokaties.AddFileToHistory(map);
     Layout();
 }

@@ -5,6 +5,7 @@
 
 #include "desktopAppBasis.h"
 #include "kern/bronzoeker.h"
+#include "toepassing/padveld.h"
 
 #include <wx/checkbox.h>
 #include <wx/checklst.h>
@@ -131,9 +132,8 @@ void KlavermolVenster::onderzoekPadOpBestanden()
     heeftHBestanden = vlaggen.h;
     heeftSBestanden = vlaggen.s;
 
-    const wxMenuItem* auto_ = GetMenuBar()->FindItem(AutoZetUitvoerDirID);
-    if (auto_ != nullptr && auto_->IsEnabled() && auto_->IsChecked())
-        outputDirPicker->SetPath(map);
+    if (moetUitvoerMapVolgen())
+        outputDirPicker->SetPath(normaleMap(map));
 }
 
 wxArrayString KlavermolVenster::kiesBestanden(const wxString& map)
@@ -188,6 +188,8 @@ int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t& ov
 
 void KlavermolVenster::OnAddClick(wxCommandEvent&)
 {
+    if (!zoekMapBestaat())
+        return;
     const wxFileName zoekMap = wxFileName::DirName(vindBestandenInDirs->GetPath());
     const wxString map = zoekMap.GetFullPath();
     wxArrayString gevonden;

@@ -40,6 +40,9 @@ public:
     static AboutToner& geefAboutToner();
 
 protected:
+    // What this layer keeps in the store, written at the end.
+    void schrijfEigenInstellingen();
+
     wxWindow* hoofdVenster = nullptr;
     StandSchakelaar toonHulpToolTips;
     bool taalGekozen = false;

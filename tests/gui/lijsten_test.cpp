@@ -9,6 +9,7 @@
 #include <wx/filepicker.h>
 #include <wx/notebook.h>
 #include <wx/testing.h>
+#include <wx/textctrl.h>
 #include <wx/tglbtn.h>
 
 class Lijsten : public ProgrammaTest
@@ -135,8 +136,9 @@ TEST_F(Lijsten, DoubleClickInvertsOneDirectory)
     EXPECT_TRUE(aangevinkt("/src/a/y.h"));
 }
 
-// A drop sets the picker to the directory part of the first path only; it
-// neither probes, nor records the location, nor adds anything.
+// A drop on the picker's text field sets the picker to the directory part of
+// the first path only; it neither probes, nor records the location, nor adds
+// anything. A drop that names no file (a web link) changes nothing.
 TEST_F(Lijsten, DroppingSetsThePickerToTheDirectoryPart)
 {
     const wxString proj = thuis + "/proj";
@@ -146,7 +148,9 @@ TEST_F(Lijsten, DroppingSetsThePickerToTheDirectoryPart)
     KlavermolVenster& v = venster();
     v.voegCBestandenToe = true;
     v.voegToeModeKeuze->SetSelection(1);
-    BestandDropTarget doel(&v);
+    auto* doel_ = dynamic_cast<BestandDropTarget*>(v.vindBestandenInDirs->GetTextCtrl()->GetDropTarget());
+    ASSERT_NE(doel_, nullptr);
+    BestandDropTarget& doel = *doel_;
     wxArrayString twee;
     twee.Add(proj + "/a.c");
     twee.Add(thuis + "/elders/b.c"); // ignored
@@ -161,5 +165,9 @@ TEST_F(Lijsten, DroppingSetsThePickerToTheDirectoryPart)
     EXPECT_TRUE(doel.OnDropFiles(0, 0, wxArrayString(1, proj + "/src"))); // a directory: its parent
     EXPECT_EQ(v.vindBestandenInDirs->GetPath(), proj);
     EXPECT_FALSE(doel.OnDropFiles(0, 0, wxArrayString(1, thuis + "/weg/x.c")));
+    EXPECT_EQ(v.vindBestandenInDirs->GetPath(), proj);
+    verwachtAssert("nIndex < m_nCount");
+    EXPECT_FALSE(doel.OnDropFiles(0, 0, wxArrayString()));
+    EXPECT_EQ(aantalAsserts("nIndex < m_nCount"), 1);
     EXPECT_EQ(v.vindBestandenInDirs->GetPath(), proj);
 }

@@ -1,12 +1,19 @@
 #include "programma.h"
 
 #include <wx/app.h>
+#include <wx/choice.h>
+#include <wx/statusbr.h>
+#include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/filepicker.h>
 #include <wx/dialog.h>
 #include <wx/init.h>
 #include <wx/modalhook.h>
+#include <wx/time.h>
+#include <wx/uiaction.h>
 #include <wx/wfstream.h>
+
+#include <gtk/gtk.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -80,6 +87,10 @@ void ProgrammaTest::SetUp()
     thuis = map;
     eigenThuis = vorige == nullptr;
     setenv("HOME", map, 1);
+    // Temporary files and locks of this process stay in its own home.
+    const wxString tijdelijk = thuis + "/tmp";
+    wxFileName::Mkdir(tijdelijk, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+    setenv("TMPDIR", tijdelijk.ToStdString().c_str(), 1);
     setenv("XDG_CONFIG_HOME", (thuis + "/.config").ToStdString().c_str(), 1);
     // A fixed system language, so that nothing depends on the machine.
     setenv("LC_ALL", "en_US.UTF-8", 1);
@@ -215,6 +226,80 @@ void ProgrammaTest::kiesZoekMap(const wxString& pad)
     venster().vindBestandenInDirs->SetPath(pad);
     wxFileDirPickerEvent e(wxEVT_DIRPICKER_CHANGED, venster().vindBestandenInDirs, VindBestandenInDirsID, pad);
     venster().ProcessWindowEvent(e);
+}
+
+void ProgrammaTest::wachtTot(const std::function<bool()>& klaar, const char* wat)
+{
+    const wxLongLong einde = wxGetLocalTimeMillis() + 30000;
+    // wakes the loop now and then to look at the clock
+    const guint wekker = g_timeout_add_seconds(1, [](gpointer) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr);
+    wxTheApp->ProcessPendingEvents();
+    while (!klaar()) {
+        if (wxGetLocalTimeMillis() > einde) {
+            ADD_FAILURE() << "still waiting for " << wat;
+            break;
+        }
+        g_main_context_iteration(nullptr, TRUE);
+        wxTheApp->ProcessPendingEvents();
+    }
+    g_source_remove(wekker);
+}
+
+void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort)
+{
+    // The splash screen stays on top for its two seconds; real input is meant
+    // for the main window, so it goes first, also from the display.
+    if (wxSplashScreen* splash = app().geefSplash()) {
+        splash->Destroy();
+        wachtTot([this] { return app().geefSplash() == nullptr; }, "the splash screen to go");
+    }
+    // Active once the window manager has framed, placed and focused it.
+    wachtTot([this] { return venster().IsActive(); }, "the window to be active");
+    gdk_display_sync(gdk_display_get_default());
+    bool gekomen = false;
+    auto gezien = [&](wxEvent& e) {
+        gekomen = true;
+        e.Skip();
+    };
+    const wxEventTypeTag<wxEvent> tag(soort);
+    w->Bind(tag, gezien);
+    wxUIActionSimulator sim;
+    sim.MouseMove(w->GetScreenRect().GetPosition() + w->GetSize() / 2);
+    sim.MouseClick();
+    wachtTot([&] { return gekomen; }, "the click");
+    w->Unbind(tag, gezien);
+    verwerk();
+}
+
+void ProgrammaTest::typIn(wxTextCtrl* veld, const wxString& tekst)
+{
+    klikOp(veld, wxEVT_LEFT_UP);
+    wachtTot([&] { return wxWindow::FindFocus() == veld; }, "the text field's focus");
+    bool enter = false;
+    auto gezien = [&](wxKeyEvent& e) {
+        enter = enter || e.GetKeyCode() == WXK_RETURN;
+        e.Skip();
+    };
+    veld->Bind(wxEVT_KEY_DOWN, gezien);
+    wxUIActionSimulator sim;
+    sim.Char('a', wxMOD_CONTROL);
+    sim.Text(tekst.utf8_str());
+    sim.Char(WXK_RETURN);
+    wachtTot([&] { return enter; }, "the Enter key");
+    veld->Unbind(wxEVT_KEY_DOWN, gezien);
+    verwerk();
+}
+
+void ProgrammaTest::kiesRij(wxChoice* keuze, int rij)
+{
+    klikOp(venster().GetStatusBar(), wxEVT_LEFT_UP); // the window takes the keyboard
+    keuze->SetFocus();
+    wachtTot([&] { return wxWindow::FindFocus() == keuze; }, "the choice's focus");
+    wxUIActionSimulator sim;
+    for (int i = keuze->GetSelection(); i != rij; i += rij > i ? 1 : -1)
+        sim.Char(rij > i ? WXK_DOWN : WXK_UP);
+    wachtTot([&] { return keuze->GetSelection() == rij; }, "the chosen row");
+    verwerk();
 }
 
 wxString ProgrammaTest::maakMap(const wxString& naam) const

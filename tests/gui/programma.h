@@ -54,6 +54,17 @@ protected:
     // Picks `pad` in the search-location picker, as the user does.
     void kiesZoekMap(const wxString& pad);
 
+    // Runs the event loop until `klaar` holds; waits for events, not for
+    // time. What never comes fails the test after half a minute, naming `wat`.
+    void wachtTot(const std::function<bool()>& klaar, const char* wat = "a condition");
+    // Real input through the display: a mouse click in the middle of `w`
+    // (returns once `w` has its event of type `soort`), and typing `tekst`
+    // into a text field in place of what it holds, closed with Enter.
+    void klikOp(wxWindow* w, wxEventType soort = wxEVT_BUTTON);
+    void typIn(wxTextCtrl* veld, const wxString& tekst);
+    // Moves a choice to row `rij` with the arrow keys, as a keyboard user does.
+    void kiesRij(wxChoice* keuze, int rij);
+
     // A directory, or a one-line file with its directories, below the home.
     wxString maakMap(const wxString& naam) const;
     wxString maakBestand(const wxString& naam) const;

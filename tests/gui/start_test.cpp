@@ -4,10 +4,13 @@
 
 #include <wx/choice.h>
 #include <wx/display.h>
+#include <wx/sizer.h>
 #include <wx/testing.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
 #include <fstream>
+#include <functional>
 #include <iterator>
 
 namespace {
@@ -26,17 +29,33 @@ bool isTijd(const wxString& s)
 
 using Start = ProgrammaTest;
 
-// 800 x 600 centred in the system language, the splash over the registered
-// window; a size just above 100 is stored at the end.
+// 800 x 600 or what the contents need, centred, on the screen, every control
+// wholly inside; the system language, the splash over the registered window;
+// the size is stored at the end.
 TEST_F(Start, FirstStartWithAnEmptyStore)
 {
     zetTaal(-1); // nothing in the store: the system language is taken
     start();
-    EXPECT_EQ(venster().GetClientSize(), wxSize(800, 600));
-    const wxRect scherm = wxDisplay(0u).GetGeometry();
+    const wxSize inhoud = venster().GetSizer()->GetMinSize();
+    EXPECT_EQ(venster().GetClientSize(), wxSize(std::max(800, inhoud.x), std::max(600, inhoud.y)));
+    const wxRect scherm = wxDisplay(0u).GetClientArea();
     const wxRect buiten = venster().GetRect();
-    EXPECT_NEAR(buiten.x + buiten.width / 2, scherm.width / 2, 2);
-    EXPECT_NEAR(buiten.y + buiten.height / 2, scherm.height / 2, 2);
+    EXPECT_TRUE(scherm.Contains(buiten)) << buiten.width << "x" << buiten.height;
+    // centred before the window manager adds its title bar
+    EXPECT_NEAR(buiten.x + buiten.width / 2, scherm.x + scherm.width / 2, 2);
+    EXPECT_NEAR(buiten.y + buiten.height / 2, scherm.y + scherm.height / 2, 16);
+    const wxRect binnen(venster().GetClientAreaOrigin(), venster().GetClientSize());
+    std::function<void(wxWindow*)> binnenIn = [&](wxWindow* w) {
+        for (wxWindow* kind : w->GetChildren()) {
+            if (!kind->IsShown() || kind->IsTopLevel() || kind == venster().GetStatusBar())
+                continue;
+            const wxRect plaats(venster().ScreenToClient(kind->GetScreenPosition()), kind->GetSize());
+            EXPECT_TRUE(binnen.Contains(plaats)) << kind->GetClassInfo()->GetClassName() << " " << kind->GetId();
+            if (kind->GetParent() == &venster() || kind->GetParent()->GetId() == PaneelID)
+                binnenIn(kind);
+        }
+    };
+    binnenIn(&venster());
     EXPECT_EQ(app().geefTaal(), wxLocale::GetSystemLanguage());
     EXPECT_TRUE(app().geefToonHulpToolTips());
     EXPECT_EQ(app().geefLaatsteDataPad(), wxStandardPaths::Get().GetDocumentsDir());
@@ -50,21 +69,19 @@ TEST_F(Start, FirstStartWithAnEmptyStore)
     EXPECT_EQ(aantalAsserts("(win != nullptr)"), 1);
     EXPECT_EQ(app().geefHoofdVenster(), &venster());
 
-    venster().SetClientSize(101, 101);
-    verwerk();
-    ASSERT_EQ(venster().GetClientSize(), wxSize(101, 101));
+    const wxSize grootte = venster().GetClientSize();
     stop();
     auto config = leesInstellingen();
     EXPECT_TRUE(isDatum(config->Read("/Statistiek/StartDatum")));
     EXPECT_TRUE(isTijd(config->Read("/Statistiek/StartTijd")));
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Encoding", -1), wxLocale::GetSystemLanguage());
-    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteX", 0), 101);
-    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteY", 0), 101);
+    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteX", 0), grootte.x);
+    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteY", 0), grootte.y);
     EXPECT_FALSE(config->HasEntry("/Operationeel/EigenHerstart"));
 }
 
-// A width of 100 or less is not stored; language, tooltips, data path and
-// the statistics are.
+// The window's size, language, tooltips, data path and the statistics are
+// stored at the end.
 TEST_F(Start, ShutdownWritesLanguageTooltipsDataPathAndStatistics)
 {
     // "$HOME" stays as it is: the store never expands environment variables.
@@ -75,13 +92,11 @@ TEST_F(Start, ShutdownWritesLanguageTooltipsDataPathAndStatistics)
     start();
     EXPECT_FALSE(app().geefToonHulpToolTips());
     EXPECT_EQ(app().geefLaatsteDataPad(), "$HOME/data/${SRCS}");
-    venster().SetClientSize(100, 500);
-    verwerk();
-    ASSERT_EQ(venster().GetClientSize(), wxSize(100, 500));
+    const wxSize grootte = venster().GetClientSize(); // 640 x 480 gave way to the contents
     stop();
     auto config = leesInstellingen();
-    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteX", 0), 640);
-    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteY", 0), 480);
+    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteX", 0), grootte.x);
+    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteY", 0), grootte.y);
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Encoding", -1), wxLANGUAGE_DUTCH);
     EXPECT_FALSE(config->ReadBool("/Gebruikersinstellingen/toonHulptoolTips", true));
     EXPECT_EQ(config->Read("/Operationeel/LaatsteDataPad"), "$HOME/data/${SRCS}");
@@ -154,17 +169,18 @@ TEST_F(Start, ACorruptStoreIsKeptAndWhatCanBeReadIsUsed)
     EXPECT_EQ(leesInstellingen()->Read("/Configuratie/BestandNaamTekst"), "goed.txt");
 }
 
-// A small stored size is applied as it stands: GTK keeps the window at least
-// as wide as its menu bar, but the height has no lower bound of our own.
-TEST_F(Start, ValuesOfTheWrongTypeTakeTheirDefaultsAndSmallSizesStand)
+// A size no window can have gives the default size, which gives way to
+// what the contents need.
+TEST_F(Start, ValuesOfTheWrongTypeOrSizeTakeTheirDefaults)
 {
     schrijfInstellingen("[Gebruikersinstellingen]\nEncoding=Nederlands\n"
-                        "[Gebruikersinstellingen/Venster]\nGrootteX=breed\nGrootteY=50\n"
+                        "[Gebruikersinstellingen/Venster]\nGrootteX=-99999\nGrootteY=50\n"
                         "[Configuratie]\nProjektsoort=bibliotheek\nVoegCBestandenToe=misschien\n");
     zetTaal(-1);
     start();
     EXPECT_EQ(app().geefTaal(), wxLocale::GetSystemLanguage());
-    EXPECT_EQ(venster().GetClientSize(), wxSize(800, 50));
+    const wxSize inhoud = venster().GetSizer()->GetMinSize();
+    EXPECT_EQ(venster().GetClientSize(), wxSize(std::max(800, inhoud.x), std::max(600, inhoud.y)));
     EXPECT_EQ(venster().uitvoerSoortKeuze->GetSelection(), 0);
     EXPECT_FALSE(venster().voegCBestandenToe.boolean());
 }

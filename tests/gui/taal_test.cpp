@@ -201,10 +201,14 @@ TEST_F(Taal, TheAboutMenuShowsDescriptionVersionAndCreditsInOrder)
     EXPECT_TRUE(getoond.GetDescription().StartsWith(platform + "\n\nKlavermol simplifies applying CMake"));
     EXPECT_TRUE(getoond.GetDescription().EndsWith("finding the proper paths relative from the build directory."));
     const wxArrayString& ontwikkelaars = getoond.GetDevelopers();
-    ASSERT_EQ(ontwikkelaars.size(), 3u);
-    EXPECT_TRUE(ontwikkelaars[0].StartsWith("The wxWidgets cross-platform GUI toolkit ("));
-    EXPECT_EQ(ontwikkelaars[1], "\nThe CMake Project (https://cmake.org)");
-    EXPECT_TRUE(ontwikkelaars[2].StartsWith("\nKlavermol icons: "));
+    // each web address on a line of its own, so that it is shown
+    ASSERT_EQ(ontwikkelaars.size(), 6u);
+    EXPECT_EQ(ontwikkelaars[0], "The wxWidgets cross-platform GUI toolkit");
+    EXPECT_EQ(ontwikkelaars[1], "https://www.wxwidgets.org");
+    EXPECT_EQ(ontwikkelaars[2], "\nThe CMake Project");
+    EXPECT_EQ(ontwikkelaars[3], "https://cmake.org");
+    EXPECT_TRUE(ontwikkelaars[4].StartsWith("\nKlavermol icons: "));
+    EXPECT_EQ(ontwikkelaars[5], "https://www.zelvano.nl/klavermol");
 }
 
 TEST_F(Taal, GermanInterfaceAndCommentLinesAroundUntouchedDirectives)

@@ -8,6 +8,7 @@
 #include <wx/dir.h>
 #include <wx/filedlg.h>
 #include <wx/filepicker.h>
+#include <wx/menu.h>
 #include <wx/notebook.h>
 #include <wx/radiobox.h>
 #include <wx/statbox.h>
@@ -15,8 +16,11 @@
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
 
 namespace {
 
@@ -81,32 +85,13 @@ protected:
         venster().ProcessWindowEvent(e);
     }
 
-    void voegBronnenToe(const std::vector<wxString>& paden)
-    {
-        std::size_t overgeslagen = 0;
-        venster().voegBronnenToe(wxArrayString(paden.size(), paden.data()), overgeslagen);
-    }
-
     void typNaam(const wxString& naam) { venster().projektLibIncludeNaam->SetValue(naam); }
-
-    void klik(int id)
-    {
-        wxCommandEvent e(wxEVT_BUTTON, id);
-        venster().ProcessWindowEvent(e);
-    }
 
     void kiesBestand(wxFilePickerCtrl* picker, int id, const wxString& pad)
     {
         picker->SetPath(pad);
         wxFileDirPickerEvent e(wxEVT_FILEPICKER_CHANGED, picker, id, pad);
         venster().ProcessWindowEvent(e);
-    }
-
-    wxString maakMap(const wxString& naam)
-    {
-        const wxString pad = thuis + "/" + naam;
-        wxFileName::Mkdir(pad, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
-        return pad;
     }
 
     wxString maakBestand(const wxString& pad)
@@ -168,11 +153,15 @@ TEST_F(Uitvoer, AddingCMakeSubDirectories)
     EXPECT_TRUE(heeftLog(wxLOG_Message, "CMakeLists.txt won't be added since it is already in your selection list."));
     EXPECT_EQ(v.biebLijst->GetCount(), 1u);
 
-    // another directory: a second row; an empty name is taken as typed
+    // another directory, outside the output directory (said so): a second
+    // row; an empty name is taken as typed
+    v.outputDirPicker->SetPath(lib);
     kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, ander + "/CMakeLists.txt");
     wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam(""));
     ASSERT_EQ(v.biebLijst->GetCount(), 2u);
     EXPECT_EQ(v.subDirBiebNamen[1], "");
+    EXPECT_EQ(v.GetStatusBar()->GetStatusText(0), ander + " lies outside the output directory: CMake's "
+                                                          "add_subdirectory needs a binary directory for it.");
 
     // cancelling the name question adds nothing
     const wxString derde = maakMap("derde");
@@ -250,15 +239,19 @@ TEST_F(Uitvoer, SaveFaultsShowTheErrorAndKeepTheOldFilesAndTheText)
     wxChmod(alleen, 0444);
     const wxString doel = map + "/CMakeLists.txt";
     std::ofstream(doel.ToStdString()) << "oud";
-    const auto bewaar = [&](const wxString& pad) {
+    // each with the system's reason on the next line
+    const auto bewaar = [&](const wxString& pad, const wxString& reden) {
         wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
-        EXPECT_EQ(logMet(wxLOG_Error, "Failed to open output file " + pad + " for writing to.\n").size(), 1u) << pad;
+        const std::vector<wxString> fouten = logMet(wxLOG_Error, "Failed to open output file " + pad + " for writing to.\n");
+        ASSERT_EQ(fouten.size(), 1u) << pad;
+        const wxString waarom = fouten[0].AfterFirst('\n');
+        EXPECT_TRUE(reden.empty() ? !waarom.empty() : waarom == reden) << fouten[0];
     };
-    bewaar(thuis + "/bestaat/niet/CMakeLists.txt");
-    bewaar(alleen);
+    bewaar(thuis + "/bestaat/niet/CMakeLists.txt", "No such file or directory");
+    bewaar(alleen, "Permission denied");
     {
         VolleSchijf vol;
-        bewaar(doel);
+        bewaar(doel, ""); // the reason as the system gives it
     }
     EXPECT_EQ(leesBytes(alleen), "\n");
     EXPECT_EQ(leesBytes(doel), "oud");
@@ -272,59 +265,131 @@ TEST_F(Uitvoer, SaveFaultsShowTheErrorAndKeepTheOldFilesAndTheText)
     EXPECT_EQ(leesBytes(doel), "oud");
 }
 
-TEST_F(Uitvoer, ExecuteTwiceGivesTheTextOnceFromTheCheckedEntries)
+namespace {
+
+// What klavermol-cli prints for these arguments.
+std::string cliTekst(const std::string& argumenten)
+{
+    const std::string aanroep = std::string(KLAVERMOL_BIN_DIR) + "/klavermol-cli " + argumenten + " 2>/dev/null";
+    std::string uit;
+    if (FILE* pijp = popen(aanroep.c_str(), "r")) {
+        char blok[4096];
+        for (std::size_t n; (n = std::fread(blok, 1, sizeof blok, pijp)) > 0;)
+            uit.append(blok, n);
+        pclose(pijp);
+    }
+    return uit;
+}
+
+std::string metQuotes(const wxString& pad)
+{
+    return "'" + pad.ToStdString() + "'";
+}
+
+} // namespace
+
+// Random states reached through the window, every kind, the location typed,
+// browsed or reached with Back, one entry unchecked: Execute shows what
+// klavermol-cli prints for the same state.
+TEST_F(Uitvoer, ExecuteShowsWhatTheCommandLineProgramPrintsForTheSameState)
 {
     wxSetEnv("SOURCE_DATE_EPOCH", "1599485122");
+    const std::vector<wxString> mappen = {"boom", "boom/a", "boom/a/b", "boom/c"};
+    const std::vector<wxString> namen = {"x.c", "y.cpp", "z.h", "w.hpp", "s.S"};
+    std::mt19937 kans(20201123);
+    for (const wxString& map : mappen)
+        for (std::size_t i = 0; i < 2; ++i)
+            maakBestand(maakMap(map) + "/" + map.AfterLast('/') + namen[kans() % namen.size()]);
     start();
     KlavermolVenster& v = venster();
-    v.outputDirPicker->SetPath("/p");
-    voegBronnenToe({"/p/main.c", "/p/src/a.c", "/p/src/weg.c", "/p/src/b.c", "/p/inc/a.h"});
-    v.bestandSelektieLijst->Check(2, false);
-    typNaam("Demo");
-    klik(wxID_APPLY);
-    const wxString eerste = v.uitvoerTekst->GetValue();
-    klik(wxID_APPLY);
-    EXPECT_EQ(v.uitvoerTekst->GetValue(), eerste);
-    EXPECT_TRUE(eerste.StartsWith("## Klavermol generated CMakelists Project file\n"
-                                  "## File generated on : 2020-09-07 13:25:22.\n"));
-    EXPECT_NE(eerste.Find("set(SRCS1 a.c b.c )"), wxNOT_FOUND);
-    EXPECT_EQ(eerste.Find("weg.c"), wxNOT_FOUND);
-    EXPECT_EQ(v.werklijsten.dirLijst.size(), 3u);
-
-    kern::Werklijsten werk;
-    wxString verwacht;
-    kern::maakProjekt(v.geefGeneratorInvoer(), werk, verwacht);
-    EXPECT_EQ(eerste, verwacht);
-
-    kiesSoort(1);
-    klik(wxID_APPLY);
-    EXPECT_TRUE(v.uitvoerTekst->GetValue().StartsWith("## Klavermol generated CMakelists add_library file\n"));
-    kiesSoort(2);
-    klik(wxID_APPLY);
-    EXPECT_TRUE(v.uitvoerTekst->GetValue().StartsWith("## Klavermol generated Demo include file\n"));
+    const char* const soorten[] = {"project", "library", "include"};
+    const int familieIds[] = {VoegCBestandenToeID, VoegCPPBestandenToeID, VoegHBestandenToeID, VoegSBestandenToeID};
+    const char* const familieOpties[] = {" --c", " --cpp", " --h", " --asm"};
+    int vergeleken = 0;
+    for (int ronde = 0; ronde < 12; ++ronde) {
+        const int soort = static_cast<int>(kans() % 3);
+        const int modus = 1 + static_cast<int>(kans() % 2);
+        const wxString map = thuis + "/" + mappen[kans() % mappen.size()];
+        const int hoe = static_cast<int>(kans() % 3);
+        SCOPED_TRACE(testing::Message() << "round " << ronde << ": kind " << soort << ", mode " << modus << ", "
+                                        << map.utf8_string() << ", way " << hoe);
+        klik(wxID_CLEAR);
+        kiesRij(v.uitvoerSoortKeuze, soort);
+        v.voegToeModeKeuze->SetSelection(modus);
+        std::string opties;
+        for (int f = 0; f < 4; ++f) {
+            const bool aan = kans() % 2 == 0 || f == 0;
+            if (aan != v.GetMenuBar()->IsChecked(familieIds[f]))
+                opdracht(wxEVT_CHECKBOX, familieIds[f]);
+            if (aan)
+                opties += familieOpties[f];
+        }
+        if (soort == 0) // a project keeps the output directory the user gives it
+            typIn(v.outputDirPicker->GetTextCtrl(), thuis + "/" + mappen[kans() % mappen.size()] + "/");
+        if (hoe == 0)
+            typIn(v.vindBestandenInDirs->GetTextCtrl(), map + "/");
+        else
+            kiesZoekMap(map);
+        if (hoe == 2 && aan(wxID_BACKWARD))
+            klikOp(v.FindWindow(wxID_BACKWARD)); // somewhere in the history
+        const wxString gezocht = v.vindBestandenInDirs->GetPath();
+        if (hoe != 2)
+            ASSERT_EQ(gezocht, map);
+        if (!aan(wxID_ADD))
+            continue;
+        klikOp(v.FindWindow(wxID_ADD));
+        const unsigned int uit = kans() % v.bestandSelektieLijst->GetCount(); // one entry left out
+        v.bestandSelektieLijst->Check(uit, false);
+        opties += " -x " + metQuotes(v.bronSelektie.geef(uit));
+        klikOp(v.FindWindow(wxID_APPLY));
+        klikOp(v.FindWindow(wxID_APPLY)); // the second run replaces the first
+        const std::string cli = cliTekst(std::string("-k ") + soorten[soort] + " -m "
+                                         + (modus == 1 ? "directory" : "recursive") + opties + " -o "
+                                         + metQuotes(v.outputDirPicker->GetPath()) + " " + metQuotes(gezocht));
+        EXPECT_EQ(v.uitvoerTekst->GetValue().utf8_string(), cli);
+        ++vergeleken;
+    }
+    EXPECT_GE(vergeleken, 6);
     wxUnsetEnv("SOURCE_DATE_EPOCH");
 }
 
-TEST_F(Uitvoer, LibrariesAndIncludeFilesReachTheProject)
+// The default library flow in real CMake: the probe sets the output
+// directory, the library's file is saved there, and a project beside it adds
+// it as a sub-directory, configures, builds and runs.
+TEST_F(Uitvoer, TheSavedLibraryAndItsProjectBuildAndRunInCMake)
 {
+    const wxString app = maakMap("app");
+    const wxString lib = maakMap("app/zlib");
+    std::ofstream((lib + "/z.c").ToStdString()) << "int z(void) { return 42; }\n";
+    std::ofstream((app + "/main.c").ToStdString()) << "int z(void);\nint main(void) { return z() == 42 ? 0 : 1; }\n";
     start();
     KlavermolVenster& v = venster();
-    const wxString lib = maakMap("lib");
-    maakBestand(lib + "/CMakeLists.txt");
-    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, lib + "/CMakeLists.txt");
-    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam("mylib"));
-    kiesBestand(v.vindCMakeIncludeDir, VindCMakeIncludeDirID, maakBestand(maakMap("cmake") + "/extra.cmake"));
-    klik(VoegToeCMakeIncludeID);
-    v.outputDirPicker->SetPath(thuis);
-    voegBronnenToe({thuis + "/src/a.c"});
-    klik(wxID_APPLY);
-    const wxString tekst = v.uitvoerTekst->GetValue();
-    EXPECT_NE(tekst.Find("set(Lib0Path ${PROJECT_SOURCE_DIR}/lib)\nadd_subdirectory(${Lib0Path})\n"), wxNOT_FOUND);
-    EXPECT_NE(tekst.Find("set(Include0Path ${PROJECT_SOURCE_DIR}/cmake)\ninclude(${Include0Path}/extra.cmake)\n"),
-              wxNOT_FOUND);
-    EXPECT_NE(tekst.Find("target_link_libraries(${ProjectName} mylib )"), wxNOT_FOUND);
+    opdracht(wxEVT_CHECKBOX, VoegCBestandenToeID);
+    v.voegToeModeKeuze->SetSelection(1);
 
-    v.biebLijst->Check(0, false);
-    klik(wxID_APPLY);
-    EXPECT_NE(v.uitvoerTekst->GetValue().Find("target_link_libraries(${ProjectName} )"), wxNOT_FOUND);
+    kiesRij(v.uitvoerSoortKeuze, 1);
+    typIn(v.vindBestandenInDirs->GetTextCtrl(), lib);
+    ASSERT_EQ(v.outputDirPicker->GetPath(), lib);
+    klikOp(v.FindWindow(GebruikSourceDirNaamID));
+    klikOp(v.FindWindow(wxID_ADD));
+    klikOp(v.FindWindow(wxID_APPLY));
+    wxTEST_DIALOG(klikOp(v.FindWindow(wxID_SAVE)),
+                  BewaarAls(lib + "/CMakeLists.txt", "TXT files (*.txt)|*.txt", lib, "CMakeLists.txt"));
+
+    kiesRij(v.uitvoerSoortKeuze, 0);
+    typIn(v.projektLibIncludeNaam, "app");
+    klik(wxID_CLEAR);
+    typIn(v.vindBestandenInDirs->GetTextCtrl(), app);
+    typIn(v.outputDirPicker->GetTextCtrl(), app);
+    klikOp(v.FindWindow(wxID_ADD));
+    typIn(v.vindCMakeSubDir->GetTextCtrl(), lib + "/CMakeLists.txt");
+    wxTEST_DIALOG(klikOp(v.FindWindow(VoegToeCMakeSubDirID)), GeefNaam("zlib"));
+    klikOp(v.FindWindow(wxID_APPLY));
+    wxTEST_DIALOG(klikOp(v.FindWindow(wxID_SAVE)),
+                  BewaarAls(app + "/CMakeLists.txt", "TXT files (*.txt)|*.txt", app, "CMakeLists.txt"));
+
+    const std::string b = metQuotes(thuis + "/b");
+    const std::string bouw = "cmake -S " + metQuotes(app) + " -B " + b + " >/dev/null && cmake --build " + b
+                             + " >/dev/null && " + b + "/app";
+    EXPECT_EQ(std::system(bouw.c_str()), 0) << bouw;
 }

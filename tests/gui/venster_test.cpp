@@ -170,16 +170,6 @@ TEST_F(Venster, TheStateIsWrittenBackInFullAtExit)
     };
     for (const auto& [sleutel, waarde] : verwacht)
         EXPECT_EQ(config->Read(sleutel, "missing"), waarde) << sleutel;
-    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteX", 0), 800);
-}
-
-TEST_F(Venster, AStoredOutputKindOutOfRangeRaisesTheArrayIndexAssertion)
-{
-    schrijfInstellingen("[Configuratie]\nProjektsoort=3\n");
-    verwachtAssert("nIndex < m_nCount");
-    verwachtAssert("IsValid(n)");
-    start();
-    EXPECT_EQ(aantalAsserts("nIndex < m_nCount"), 1);
 }
 
 // Per output kind: which of the kind-bound controls and menu items are on,
@@ -271,4 +261,16 @@ TEST_F(Venster, EnablingFollowsTheListsTheProbeAndTheHistories)
 
     klik(wxID_EXIT); // Quit closes the window
     EXPECT_TRUE(wxTheApp->IsScheduledForDestruction(&venster()));
+}
+
+// Forward with no location at all ends the program on its out-of-range
+// error, but what the user set is on disk first.
+TEST_F(Venster, ForwardIntoNothingWritesTheSettingsBeforeTheProgramEnds)
+{
+    start();
+    const wxString d = maakMap("d");
+    venster().vindBestandenInDirs->SetPath(d);
+    ASSERT_TRUE(aan(wxID_FORWARD));
+    EXPECT_THROW(klikOp(venster().FindWindow(wxID_FORWARD)), std::out_of_range);
+    EXPECT_EQ(leesInstellingen()->Read("/Configuratie/DirPad"), d);
 }

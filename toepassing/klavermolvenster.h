@@ -4,6 +4,8 @@
 // concern (see klavermolvenster_*.cpp).
 #include "desktopAlgemeen.h"
 #include "support/standschakelaar.h"
+#include "toepassing/achtergrondwerk.h"
+#include "kern/bronzoeker.h"
 #include "kern/generator.h"
 #include "kern/selektie.h"
 #include "kern/sjablonen.h"
@@ -12,16 +14,23 @@
 #include <wx/filehistory.h>
 #include <wx/frame.h>
 
+#include <chrono>
+#include <functional>
+
 
 class wxBitmapButton;
 class wxButton;
 class wxCheckBox;
 class wxCheckListBox;
+class wxListEvent;
+class BronLijstWeergave;
 class wxChoice;
 class wxDirPickerCtrl;
 class wxFileDirPickerEvent;
 class wxFilePickerCtrl;
 class wxNotebook;
+class wxProgressDialog;
+class wxTimer;
 class wxRadioBox;
 class wxStaticBox;
 class wxTextCtrl;
@@ -111,7 +120,7 @@ public:
     void OnAddClick(wxCommandEvent& event);
 
     // --- handlers: the three lists (klavermolvenster_lijsten.cpp)
-    void OnBestandSelektieLijstIDDoubleClicked(wxCommandEvent& event);
+    void OnBestandSelektieLijstIDDoubleClicked(wxListEvent& event);
     void OnSELECTALLClick(wxCommandEvent& event);
     void OnClearClick(wxCommandEvent& event);
 
@@ -168,7 +177,7 @@ public:
     wxDirPickerCtrl* vindBestandenInDirs = nullptr;
     wxFilePickerCtrl* vindCMakeSubDir = nullptr;
     wxFilePickerCtrl* vindCMakeIncludeDir = nullptr;
-    wxCheckListBox* bestandSelektieLijst = nullptr;
+    BronLijstWeergave* bestandSelektieLijst = nullptr;
     wxCheckListBox* biebLijst = nullptr;
     wxCheckListBox* includeLijst = nullptr;
     wxNotebook* selektieBoek = nullptr;
@@ -228,6 +237,24 @@ public:
     // name is counted in `overgeslagen`. Returns how many were added.
     int voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen);
 
+    // Whether a probe, an Add or Execute is still running on a worker.
+    bool isBezig() const { return onderzoekWerk.isBezig() || verzamelWerk.isBezig() || uitvoerWerk.isBezig(); }
+
+    // The whole generated text, which Save writes; the output control shows
+    // it, or only its head with a note when it is long.
+    wxString volledigeUitvoer;
+    void zetUitvoer(const wxString& tekst);
+
+    // What the workers call to probe and to collect (the core's walk; a
+    // test may put a slow stand-in here).
+    std::function<bool(const wxString&, int, const kern::Families&, kern::Aanwezig&, kern::Voortgang*)>
+        onderzoeker = kern::onderzoekMap;
+    std::function<bool(const wxString&, int, const kern::Families&, wxArrayString&, std::size_t*,
+                       kern::Voortgang*)>
+        verzamelaar = kern::verzamelBestanden;
+    // Shown while an Add has walked longer than half a second.
+    wxProgressDialog* voortgangDialoog = nullptr;
+
 private:
     void Init();
     void herstelToestand();
@@ -236,5 +263,15 @@ private:
     void wisselSchakelaar(StandSchakelaar& schakelaar);
     wxArrayString kiesBestanden(const wxString& map);
     void toonHuidigeLokatie();
+    void pasOnderzoekToe(const wxString& map, bool gelukt, const kern::Aanwezig& vlaggen);
+    void rondToevoegenAf(const wxString& map, const wxArrayString& gevonden, std::size_t overgeslagen);
+    void begintVoortgang();
+    void toonVoortgang();
+    void eindigVoortgang();
+    AchtergrondWerk onderzoekWerk{*this};
+    AchtergrondWerk verzamelWerk{*this};
+    AchtergrondWerk uitvoerWerk{*this};
+    wxTimer* voortgangKlok = nullptr;
+    std::chrono::steady_clock::time_point voortgangBegin;
     void schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&));
 };

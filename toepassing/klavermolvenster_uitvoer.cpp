@@ -140,6 +140,6 @@ void KlavermolVenster::SlaOpCMakeHandler(wxCommandEvent&)
     wxString pad = dialoog.GetPath();
     if (pad.empty())
         pad = wxFileName(dialoog.GetDirectory(), dialoog.GetFilename()).GetFullPath();
-    if (!kern::schrijfTekstBestand(pad, uitvoerTekst->GetValue()))
+    if (!kern::schrijfTekstBestand(pad, volledigeUitvoer))
         wxLogError(wxString(_("Failed to open output file ")) + pad + _(" for writing to."));
 }

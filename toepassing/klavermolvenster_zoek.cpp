@@ -1,13 +1,12 @@
 // The file-type switches, the filter text and wildcard, the probe of the
 // search location and the Add command.
 #include "toepassing/klavermolvenster.h"
-#include "toepassing/lijstblok.h"
+#include "toepassing/bronlijstweergave.h"
 
 #include "desktopAppBasis.h"
 #include "kern/bronzoeker.h"
 
 #include <wx/checkbox.h>
-#include <wx/checklst.h>
 #include <wx/filedlg.h>
 #include <wx/log.h>
 #include <wx/msgdlg.h>
@@ -111,18 +110,27 @@ void KlavermolVenster::OnSelekteerBestandType()
 
 void KlavermolVenster::onderzoekPadOpBestanden()
 {
+    // The probe runs on a worker from copies of what it needs; a later
+    // probe stops this one, and only the latest result is applied.
     const wxString map = wxFileName::DirName(vindBestandenInDirs->GetPath()).GetFullPath();
     kern::Aanwezig vlaggen;
     vlaggen.c = heeftCBestanden;
     vlaggen.cpp = heeftCPPBestanden;
     vlaggen.h = heeftHBestanden;
     vlaggen.s = heeftSBestanden;
-
-    wxBusyCursor bezig;
     const int modus = voegToeModeKeuze->GetSelection();
     const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
                                             voegSBestandenToe);
-    if (!kern::onderzoekMap(map, modus, aan, vlaggen)) {
+    onderzoekWerk.start([this, map, modus, aan, vlaggen, onderzoek = onderzoeker](
+                            kern::Voortgang& voortgang) mutable -> AchtergrondWerk::Afronding {
+        const bool gelukt = onderzoek(map, modus, aan, vlaggen, &voortgang);
+        return [this, map, gelukt, vlaggen] { pasOnderzoekToe(map, gelukt, vlaggen); };
+    });
+}
+
+void KlavermolVenster::pasOnderzoekToe(const wxString& map, bool gelukt, const kern::Aanwezig& vlaggen)
+{
+    if (!gelukt) {
         wxFAIL_COND_MSG(true == mag, "(KlavermolVenster::onderzoekPadOpBestanden) " + map);
         return;
     }
@@ -166,43 +174,53 @@ int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t& ov
     wxBusyCursor bezig;
     // Asked once: the trace line per file is built only when it is kept.
     const bool spoor = wxLog::IsLevelEnabled(wxLOG_Debug, wxASCII_STR(wxLOG_COMPONENT));
-    wxArrayString nieuw;
-    nieuw.reserve(paden.size());
+    const std::size_t voor = bronSelektie.aantal();
     for (const wxString& pad : paden) {
         if (spoor)
             wxLogDebug("OnAddCLick : voeg toe bestand: " + DesktopAppBasis::dubbeleQuotes(pad, false));
         if (!kern::kanCMakeNoemen(pad))
             ++overgeslagen;
-        else if (bronSelektie.voegToe(pad))
-            nieuw.Add(pad);
-        else
+        else if (!bronSelektie.voegToe(pad))
             wxLogMessage(pad + _(" won't be added since it is already in your selection list."));
     }
-    if (nieuw.empty())
-        return 0;
-
-    // One batch for the control, however many files.
-    voegToeAanLijst(bestandSelektieLijst, nieuw);
-    return static_cast<int>(nieuw.size());
+    const std::size_t toegevoegd = bronSelektie.aantal() - voor;
+    // One refresh of the view, however many files.
+    if (toegevoegd != 0)
+        bestandSelektieLijst->ververs(voor);
+    return static_cast<int>(toegevoegd);
 }
 
 void KlavermolVenster::OnAddClick(wxCommandEvent&)
 {
-    const wxFileName zoekMap = wxFileName::DirName(vindBestandenInDirs->GetPath());
-    const wxString map = zoekMap.GetFullPath();
-    wxArrayString gevonden;
-    std::size_t overgeslagen = 0;
+    const wxString map = wxFileName::DirName(vindBestandenInDirs->GetPath()).GetFullPath();
     const int modus = voegToeModeKeuze->GetSelection();
     if (modus == kern::ModusBestanden) {
-        gevonden = kiesBestanden(map);
-    } else if (modus == kern::ModusMap || modus == kern::ModusRecursief) {
-        wxBusyCursor bezig;
-        const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
-                                                voegSBestandenToe);
-        if (!kern::verzamelBestanden(map, modus, aan, gevonden, &overgeslagen))
-            wxFAIL_COND_MSG(true == mag, "(KlavermolVenster::OnAddClick) " + map);
+        rondToevoegenAf(map, kiesBestanden(map), 0);
+        return;
     }
+    if (modus != kern::ModusMap && modus != kern::ModusRecursief) {
+        rondToevoegenAf(map, wxArrayString(), 0);
+        return;
+    }
+    const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
+                                            voegSBestandenToe);
+    verzamelWerk.start([this, map, modus, aan, verzamel = verzamelaar](
+                           kern::Voortgang& voortgang) -> AchtergrondWerk::Afronding {
+        auto gevonden = std::make_shared<wxArrayString>();
+        std::size_t overgeslagen = 0;
+        const bool gelukt = verzamel(map, modus, aan, *gevonden, &overgeslagen, &voortgang);
+        return [this, map, gelukt, gevonden, overgeslagen] {
+            eindigVoortgang();
+            if (!gelukt)
+                wxFAIL_COND_MSG(true == mag, "(KlavermolVenster::OnAddClick) " + map);
+            rondToevoegenAf(map, *gevonden, overgeslagen);
+        };
+    });
+    begintVoortgang();
+}
 
+void KlavermolVenster::rondToevoegenAf(const wxString& map, const wxArrayString& gevonden, std::size_t overgeslagen)
+{
     const int aantal = static_cast<int>(gevonden.size());
     wxLogDebug("The selected directory resulted in the addition of %d files", aantal);
     int toegevoegd = 0;
@@ -217,9 +235,10 @@ void KlavermolVenster::OnAddClick(wxCommandEvent&)
             wxLogWarning(kern::geefOvergeslagenMelding(overgeslagen));
     }
 
+    // The search directory counts as a directory: its name part is empty.
     PopStatusText(0);
-    PushStatusText(wxString::Format(_("A total of %d files and dirs was found in "), toegevoegd) + zoekMap.GetFullName()
-                       + _(" and added to the selection."),
+    PushStatusText(wxString::Format(_("A total of %d files and dirs was found in "), toegevoegd)
+                       + wxFileName::DirName(map).GetFullName() + _(" and added to the selection."),
                    0);
     selektieBoek->SetSelection(0);
     recenteLokaties.AddFileToHistory(map);

@@ -185,8 +185,17 @@ KlavermolVenster& ProgrammaTest::venster() const
     return *app().geefVenster();
 }
 
+void ProgrammaTest::wachtOpVenster()
+{
+    while (app().geefVenster() != nullptr && venster().isBezig()) {
+        wxTheApp->ProcessPendingEvents();
+        wxTheApp->Yield(true);
+    }
+}
+
 void ProgrammaTest::verwerk()
 {
+    wachtOpVenster();
     for (int i = 0; i < 3; ++i) {
         wxTheApp->ProcessPendingEvents();
         wxTheApp->Yield(true);
@@ -200,6 +209,7 @@ void ProgrammaTest::opdracht(wxEventType soort, int id, int waarde)
     wxCommandEvent e(soort, id);
     e.SetInt(waarde);
     venster().ProcessWindowEvent(e);
+    wachtOpVenster();
 }
 
 bool ProgrammaTest::aan(int id)
@@ -215,6 +225,7 @@ void ProgrammaTest::kiesZoekMap(const wxString& pad)
     venster().vindBestandenInDirs->SetPath(pad);
     wxFileDirPickerEvent e(wxEVT_DIRPICKER_CHANGED, venster().vindBestandenInDirs, VindBestandenInDirsID, pad);
     venster().ProcessWindowEvent(e);
+    wachtOpVenster();
 }
 
 wxString ProgrammaTest::maakMap(const wxString& naam) const

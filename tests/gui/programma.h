@@ -3,6 +3,7 @@
 // its own settings file, a fixed language, a recording log, wx assertions
 // turned into test failures unless expected, and no real restart.
 #include "toepassing/klavermol.h"
+#include "toepassing/bronlijstweergave.h"
 #include "toepassing/klavermolvenster.h"
 
 #include <gtest/gtest.h>
@@ -45,6 +46,8 @@ protected:
 
     // Lets pending events and idle processing run; refreshes update-UI state.
     void verwerk();
+    // Until the window's probe or Add on its workers has been applied.
+    void wachtOpVenster();
 
     // Sends a command event (button, menu, check box...) to the main window.
     void opdracht(wxEventType soort, int id, int waarde = 0);

@@ -212,7 +212,8 @@ TEST_F(Venster, EnablingFollowsTheListsTheProbeAndTheHistories)
     EXPECT_FALSE(aan(wxID_CLEAR));
     v.selektieBoek->SetSelection(2);
     EXPECT_TRUE(aan(wxID_CLEAR));
-    v.bestandSelektieLijst->Append("/a.c");
+    std::size_t overgeslagen = 0;
+    v.voegBronnenToe(wxArrayString(1, "/a.c"), overgeslagen);
     EXPECT_TRUE(aan(wxID_APPLY));
     EXPECT_FALSE(aan(wxID_SAVE));
     v.uitvoerTekst->ChangeValue("x");

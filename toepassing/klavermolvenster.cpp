@@ -155,6 +155,7 @@ KlavermolVenster::~KlavermolVenster()
     uitvoerWerk.stopAlles();
     eindigVoortgang();
     delete voortgangKlok;
+    delete plakKlok;
     bewaarToestand();
     // Emptied at once: row by row the toolkit takes long on big lists.
     for (wxCheckListBox* lijst : {biebLijst, includeLijst})

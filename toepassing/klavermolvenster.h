@@ -16,6 +16,7 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 
 
 class wxBitmapButton;
@@ -238,7 +239,10 @@ public:
     int voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen);
 
     // Whether a probe, an Add or Execute is still running on a worker.
-    bool isBezig() const { return onderzoekWerk.isBezig() || verzamelWerk.isBezig() || uitvoerWerk.isBezig(); }
+    bool isBezig() const
+    {
+        return onderzoekWerk.isBezig() || verzamelWerk.isBezig() || uitvoerWerk.isBezig() || volgendePlak;
+    }
 
     // The whole generated text, which Save writes; the output control shows
     // it, or only its head with a note when it is long.
@@ -264,7 +268,12 @@ private:
     wxArrayString kiesBestanden(const wxString& map);
     void toonHuidigeLokatie();
     void pasOnderzoekToe(const wxString& map, bool gelukt, const kern::Aanwezig& vlaggen);
-    void rondToevoegenAf(const wxString& map, const wxArrayString& gevonden, std::size_t overgeslagen);
+    void rondToevoegenAf(const wxString& map, std::shared_ptr<const wxArrayString> gevonden, std::size_t overgeslagen);
+    void voegToeInPlakken(const wxString& map, std::shared_ptr<const wxArrayString> gevonden, std::size_t van,
+                          std::size_t overgeslagen, int toegevoegd);
+    int voegBronnenToe(const wxArrayString& paden, std::size_t van, std::size_t tot, std::size_t& overgeslagen);
+    std::function<void()> volgendePlak;
+    wxTimer* plakKlok = nullptr;
     void begintVoortgang();
     void toonVoortgang();
     void eindigVoortgang();

@@ -14,7 +14,12 @@
 #include <wx/choice.h>
 #include <wx/filepicker.h>
 #include <wx/menu.h>
+#include <wx/timer.h>
 #include <wx/utils.h>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -171,11 +176,18 @@ wxArrayString KlavermolVenster::kiesBestanden(const wxString& map)
 
 int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen)
 {
+    return voegBronnenToe(paden, 0, paden.size(), overgeslagen);
+}
+
+int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t van, std::size_t tot,
+                                     std::size_t& overgeslagen)
+{
     wxBusyCursor bezig;
     // Asked once: the trace line per file is built only when it is kept.
     const bool spoor = wxLog::IsLevelEnabled(wxLOG_Debug, wxASCII_STR(wxLOG_COMPONENT));
     const std::size_t voor = bronSelektie.aantal();
-    for (const wxString& pad : paden) {
+    for (std::size_t i = van; i < tot; ++i) {
+        const wxString& pad = paden[i];
         if (spoor)
             wxLogDebug("OnAddCLick : voeg toe bestand: " + DesktopAppBasis::dubbeleQuotes(pad, false));
         if (!kern::kanCMakeNoemen(pad))
@@ -195,11 +207,11 @@ void KlavermolVenster::OnAddClick(wxCommandEvent&)
     const wxString map = wxFileName::DirName(vindBestandenInDirs->GetPath()).GetFullPath();
     const int modus = voegToeModeKeuze->GetSelection();
     if (modus == kern::ModusBestanden) {
-        rondToevoegenAf(map, kiesBestanden(map), 0);
+        rondToevoegenAf(map, std::make_shared<const wxArrayString>(kiesBestanden(map)), 0);
         return;
     }
     if (modus != kern::ModusMap && modus != kern::ModusRecursief) {
-        rondToevoegenAf(map, wxArrayString(), 0);
+        rondToevoegenAf(map, std::make_shared<const wxArrayString>(), 0);
         return;
     }
     const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
@@ -213,27 +225,48 @@ void KlavermolVenster::OnAddClick(wxCommandEvent&)
             eindigVoortgang();
             if (!gelukt)
                 wxFAIL_COND_MSG(true == mag, "(KlavermolVenster::OnAddClick) " + map);
-            rondToevoegenAf(map, *gevonden, overgeslagen);
+            rondToevoegenAf(map, gevonden, overgeslagen);
         };
     });
     begintVoortgang();
 }
 
-void KlavermolVenster::rondToevoegenAf(const wxString& map, const wxArrayString& gevonden, std::size_t overgeslagen)
+void KlavermolVenster::rondToevoegenAf(const wxString& map, std::shared_ptr<const wxArrayString> gevonden,
+                                       std::size_t overgeslagen)
 {
-    const int aantal = static_cast<int>(gevonden.size());
+    const int aantal = static_cast<int>(gevonden->size());
     wxLogDebug("The selected directory resulted in the addition of %d files", aantal);
-    int toegevoegd = 0;
     const bool verder = aantal <= 10
         || wxMessageBox(wxString::Format(_("%d files were found and will be added to the selection list.\nDo you "
                                            "want to proceed?"),
                                          aantal),
                         _("More than 10 files found"), wxYES_NO | wxICON_QUESTION, this) == wxYES;
-    if (verder) {
-        toegevoegd = voegBronnenToe(gevonden, overgeslagen);
-        if (overgeslagen != 0)
-            wxLogWarning(kern::geefOvergeslagenMelding(overgeslagen));
+    if (verder)
+        voegToeInPlakken(map, gevonden, 0, overgeslagen, 0);
+    else
+        voegToeInPlakken(map, std::make_shared<const wxArrayString>(), 0, 0, 0);
+}
+
+void KlavermolVenster::voegToeInPlakken(const wxString& map, std::shared_ptr<const wxArrayString> gevonden,
+                                        std::size_t van, std::size_t overgeslagen, int toegevoegd)
+{
+    // Taken in slices, the event loop running between them.
+    const std::size_t plakGrootte = 10000;
+    const std::size_t tot = std::min(gevonden->size(), van + plakGrootte);
+    toegevoegd += voegBronnenToe(*gevonden, van, tot, overgeslagen);
+    if (tot < gevonden->size()) {
+        // The next slice after the event loop's own work: a timer, since a
+        // queued call would run at once with the other queued events.
+        volgendePlak = [=] { voegToeInPlakken(map, gevonden, tot, overgeslagen, toegevoegd); };
+        if (plakKlok == nullptr) {
+            plakKlok = new wxTimer(this);
+            Bind(wxEVT_TIMER, [this](wxTimerEvent&) { std::exchange(volgendePlak, nullptr)(); }, plakKlok->GetId());
+        }
+        plakKlok->StartOnce(1);
+        return;
     }
+    if (overgeslagen != 0)
+        wxLogWarning(kern::geefOvergeslagenMelding(overgeslagen));
 
     // The search directory counts as a directory: its name part is empty.
     PopStatusText(0);

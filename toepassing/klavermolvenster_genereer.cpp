@@ -25,6 +25,7 @@ kern::GeneratorInvoer KlavermolVenster::geefGeneratorInvoer() const
 {
     kern::GeneratorInvoer invoer;
     // The list shows the selection store: texts and check marks come from it.
+    invoer.bronnen.reserve(bronSelektie.aantal());
     for (size_t i = 0; i < bronSelektie.aantal(); ++i)
         if (bronSelektie.isAangevinkt(i))
             invoer.bronnen.Add(bronSelektie.geef(i));

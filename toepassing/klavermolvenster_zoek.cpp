@@ -204,6 +204,8 @@ int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t van
 
 void KlavermolVenster::OnAddClick(wxCommandEvent&)
 {
+    if (volgendePlak)
+        return; // the previous Add is still taking its files in
     const wxString map = wxFileName::DirName(vindBestandenInDirs->GetPath()).GetFullPath();
     const int modus = voegToeModeKeuze->GetSelection();
     if (modus == kern::ModusBestanden) {

@@ -3,10 +3,13 @@
 //   klavermol-bench execute DIR   Add, then Execute for a project in DIR and Save
 // Prints key=value lines. Needs a display (Xvfb will do).
 #include "kern/bronzoeker.h"
+#include "toepassing/bronlijstweergave.h"
 #include "toepassing/klavermol.h"
 #include "toepassing/klavermolvenster.h"
 
-#include <wx/checklst.h>
+#include <wx/evtloop.h>
+#include <wx/listctrl.h>
+#include <wx/timer.h>
 #include <wx/filedlg.h>
 #include <wx/choice.h>
 #include <wx/filepicker.h>
@@ -17,6 +20,7 @@
 #include <wx/tglbtn.h>
 #include <wx/utils.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -88,6 +92,44 @@ private:
     wxString pad;
 };
 
+// The longest time the GUI thread did not get back to its event loop: a
+// 10 ms timer ticks, and the largest gap between two ticks counts.
+class StilstandKlok : public wxTimer
+{
+public:
+    StilstandKlok() : vorige(std::chrono::steady_clock::now()) { Start(10); }
+    void Notify() override { tik(); }
+    void tik()
+    {
+        const auto nu = std::chrono::steady_clock::now();
+        langste = std::max(langste, std::chrono::duration<double>(nu - vorige).count());
+        vorige = nu;
+    }
+    double langste = 0;
+
+private:
+    std::chrono::steady_clock::time_point vorige;
+};
+
+double hoogsteStilstand = 0;
+
+// Does what a click does, then turns the event loop until `klaar` holds and
+// nothing is left to do (the views' layout and painting included). Returns
+// the seconds; the longest stall goes into hoogsteStilstand.
+double meetInLus(const std::function<void()>& opdracht, const std::function<bool()>& klaar)
+{
+    wxEventLoopBase* lus = wxEventLoopBase::GetActive();
+    StilstandKlok klok;
+    const double s = meet([&] {
+        opdracht();
+        while (!klaar() || lus->Pending())
+            lus->Dispatch();
+    });
+    klok.tik();
+    hoogsteStilstand = klok.langste;
+    return s;
+}
+
 // Points the window at the tree with every family on, recursively, and adds.
 double voegToe(KlavermolVenster& v, const wxString& map)
 {
@@ -98,22 +140,16 @@ double voegToe(KlavermolVenster& v, const wxString& map)
     v.OnSelekteerBestandType();
     v.voegToeModeKeuze->SetSelection(kern::ModusRecursief);
     v.vindBestandenInDirs->SetPath(map);
-    return meet([&] {
-        v.onderzoekPadOpBestanden();
-        wxCommandEvent klik(wxEVT_BUTTON, wxID_ADD);
-        wxTEST_DIALOG(v.ProcessWindowEvent(klik), wxExpectModal<wxMessageDialog>(wxYES).Optional());
-    });
-}
-
-// Lets the toolkit lay out and paint what changed, as the event loop would
-// right after a command: until it has no more work.
-void toonAf()
-{
-    for (int i = 0; i < 20; ++i) {
-        wxTheApp->Yield(true);
-        wxMilliSleep(5);
-        wxTheApp->Yield(true);
-    }
+    double s = 0;
+    wxTEST_DIALOG(s = meetInLus(
+                      [&] {
+                          v.onderzoekPadOpBestanden();
+                          wxCommandEvent klik(wxEVT_BUTTON, wxID_ADD);
+                          v.ProcessWindowEvent(klik);
+                      },
+                      [&] { return !v.isBezig(); }),
+                  wxExpectModal<wxMessageDialog>(wxYES).Optional());
+    return s;
 }
 
 void klikSelekteerAlles(KlavermolVenster& v, bool aan)
@@ -139,19 +175,25 @@ int meetToevoegen(KlavermolVenster& v, const std::string& map)
     print("find_s", find);
     print("walk_vs_find", walk / find);
     print("add_s", add);
+    print("max_stall_s", hoogsteStilstand);
     std::printf("peak_mb=%ld\n", piekMb());
-    print("show_s", meet([] { toonAf(); }));
-    print("selectall_s", meet([&] { klikSelekteerAlles(v, true); }));
-    print("deselectall_s", meet([&] { klikSelekteerAlles(v, false); }));
-    print("toggle_s", meet([&] {
-        wxCommandEvent dubbel(wxEVT_LISTBOX_DCLICK, BestandSelektieLijstID);
-        dubbel.SetInt(0);
+    const auto klaar = [] { return true; };
+    print("selectall_s", meetInLus([&] { klikSelekteerAlles(v, true); }, klaar));
+    print("deselectall_s", meetInLus([&] { klikSelekteerAlles(v, false); }, klaar));
+    print("toggle_s", meetInLus([&] {
+        wxListEvent dubbel(wxEVT_LIST_ITEM_ACTIVATED, BestandSelektieLijstID);
+        dubbel.m_itemIndex = 0;
         v.ProcessWindowEvent(dubbel);
-    }));
-    print("clear_s", meet([&] {
-        wxCommandEvent klik(wxEVT_BUTTON, wxID_CLEAR);
-        wxTEST_DIALOG(v.ProcessWindowEvent(klik), wxExpectModal<wxMessageDialog>(wxYES).Optional());
-    }));
+    }, klaar));
+    double wissen = 0;
+    wxTEST_DIALOG(wissen = meetInLus(
+                      [&] {
+                          wxCommandEvent klik(wxEVT_BUTTON, wxID_CLEAR);
+                          v.ProcessWindowEvent(klik);
+                      },
+                      klaar),
+                  wxExpectModal<wxMessageDialog>(wxYES).Optional());
+    print("clear_s", wissen);
     return 0;
 }
 
@@ -160,10 +202,13 @@ int meetUitvoeren(KlavermolVenster& v, const std::string& map, const std::string
     voegToe(v, map);
     v.uitvoerSoortKeuze->SetSelection(kern::SoortProjekt);
     v.outputDirPicker->SetPath(map);
-    const double uitvoeren = meet([&] {
-        wxCommandEvent klik(wxEVT_BUTTON, wxID_APPLY);
-        v.ProcessWindowEvent(klik);
-    });
+    const double uitvoeren = meetInLus(
+        [&] {
+            wxCommandEvent klik(wxEVT_BUTTON, wxID_APPLY);
+            v.ProcessWindowEvent(klik);
+        },
+        [&] { return !v.isBezig(); });
+    const double stilstand = hoogsteStilstand;
     const wxString doel = thuis + "/CMakeLists.txt";
     const double bewaren = meet([&] {
         wxCommandEvent klik(wxEVT_BUTTON, wxID_SAVE);
@@ -174,7 +219,8 @@ int meetUitvoeren(KlavermolVenster& v, const std::string& map, const std::string
         meetOpdracht("'" + cli + "' -o '" + map + "' -m recursive --c --cpp --h --asm '" + map + "' > /dev/null");
     std::printf("files=%u\n", v.bestandSelektieLijst->GetCount());
     print("execute_s", uitvoeren);
-    std::printf("text_bytes=%zu\n", v.uitvoerTekst->GetValue().utf8_str().length());
+    print("max_stall_s", stilstand);
+    std::printf("text_bytes=%zu\n", v.volledigeUitvoer.utf8_str().length());
     print("save_s", bewaren);
     std::printf("saved_bytes=%llu\n", static_cast<unsigned long long>(wxFileName::GetSize(doel).GetValue()));
     print("cli_s", cliTijd);
@@ -211,6 +257,8 @@ int main(int argc, char** argv)
     }
     wxLog::EnableLogging(false); // duplicate messages would otherwise pile up
     KlavermolVenster& venster = *wxGetApp().geefVenster();
+    wxEventLoop lus;
+    wxEventLoopActivator actief(&lus);
     const int uitslag = soort == "add" ? meetToevoegen(venster, map) : meetUitvoeren(venster, map, cli, thuis);
     wxLog::EnableLogging(true);
     const double sluiten = meet([&] {

@@ -2,6 +2,8 @@
 
 #include "afbeeldingen.h"
 #include "kern/instellingen.h"
+#include "toepassing/bestanddroptarget.h"
+#include "toepassing/bronlijstweergave.h"
 #include "toepassing/padveld.h"
 #include "toepassing/klavermol.h"
 #include "toepassing/lijstblok.h"
@@ -46,7 +48,7 @@ wxBEGIN_EVENT_TABLE(KlavermolVenster, wxFrame)
     EVT_UPDATE_UI(VindCMakeIncludeDirID, KlavermolVenster::OnVindCMakeIncludeDirIDUpdate)
     EVT_BUTTON(VoegToeCMakeIncludeID, KlavermolVenster::OnVoegToeCMakeIncludeIDClick)
     EVT_UPDATE_UI(VoegToeCMakeIncludeID, KlavermolVenster::OnVoegToeCMakeIncludeIDUpdate)
-    EVT_LISTBOX_DCLICK(BestandSelektieLijstID, KlavermolVenster::OnBestandSelektieLijstIDDoubleClicked)
+    EVT_LIST_ITEM_ACTIVATED(BestandSelektieLijstID, KlavermolVenster::OnBestandSelektieLijstIDDoubleClicked)
     EVT_TOGGLEBUTTON(wxID_SELECTALL, KlavermolVenster::OnSELECTALLClick)
     EVT_BUTTON(wxID_CLEAR, KlavermolVenster::OnClearClick)
     EVT_UPDATE_UI(wxID_CLEAR, KlavermolVenster::OnClearUpdate)
@@ -151,9 +153,16 @@ bool KlavermolVenster::Create(wxWindow* ouder, wxWindowID id, const wxString& ti
 
 KlavermolVenster::~KlavermolVenster()
 {
+    // No worker may report to a window that is going.
+    onderzoekWerk.stopAlles();
+    verzamelWerk.stopAlles();
+    uitvoerWerk.stopAlles();
+    eindigVoortgang();
+    delete voortgangKlok;
+    delete plakKlok;
     bewaarToestand();
     // Emptied at once: row by row the toolkit takes long on big lists.
-    for (wxCheckListBox* lijst : {bestandSelektieLijst, biebLijst, includeLijst})
+    for (wxCheckListBox* lijst : {biebLijst, includeLijst})
         leegLijst(lijst);
 }
 

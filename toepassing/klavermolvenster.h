@@ -4,6 +4,8 @@
 // concern (see klavermolvenster_*.cpp).
 #include "desktopAlgemeen.h"
 #include "support/standschakelaar.h"
+#include "toepassing/achtergrondwerk.h"
+#include "kern/bronzoeker.h"
 #include "kern/generator.h"
 #include "kern/selektie.h"
 #include "kern/sjablonen.h"
@@ -13,17 +15,25 @@
 #include <wx/filehistory.h>
 #include <wx/frame.h>
 
+#include <chrono>
+#include <functional>
+#include <memory>
+
 
 class wxBitmapButton;
 class wxButton;
 class wxCheckBox;
 class wxCheckListBox;
+class wxListEvent;
+class BronLijstWeergave;
 class wxChoice;
 class wxDirPickerCtrl;
 class wxFileDirPickerCtrlBase;
 class wxFileDirPickerEvent;
 class wxFilePickerCtrl;
 class wxNotebook;
+class wxProgressDialog;
+class wxTimer;
 class wxRadioBox;
 class wxStaticBox;
 class wxTextCtrl;
@@ -114,7 +124,7 @@ public:
     void OnAddClick(wxCommandEvent& event);
 
     // --- handlers: the three lists (klavermolvenster_lijsten.cpp)
-    void OnBestandSelektieLijstIDDoubleClicked(wxCommandEvent& event);
+    void OnBestandSelektieLijstIDDoubleClicked(wxListEvent& event);
     void OnSELECTALLClick(wxCommandEvent& event);
     void OnClearClick(wxCommandEvent& event);
 
@@ -177,7 +187,7 @@ public:
     wxDirPickerCtrl* vindBestandenInDirs = nullptr;
     wxFilePickerCtrl* vindCMakeSubDir = nullptr;
     wxFilePickerCtrl* vindCMakeIncludeDir = nullptr;
-    wxCheckListBox* bestandSelektieLijst = nullptr;
+    BronLijstWeergave* bestandSelektieLijst = nullptr;
     wxCheckListBox* biebLijst = nullptr;
     wxCheckListBox* includeLijst = nullptr;
     wxNotebook* selektieBoek = nullptr;
@@ -247,6 +257,29 @@ public:
     // error ends the program).
     void bewaarToestand();
 
+    // Whether a probe, an Add or Execute is still running on a worker.
+    bool isBezig() const
+    {
+        return onderzoekWerk.isBezig() || verzamelWerk.isBezig() || uitvoerWerk.isBezig() || volgendePlak;
+    }
+
+    // The whole generated text, which Save writes; the output control shows
+    // it, or only its head with a note when it is long.
+    wxString volledigeUitvoer;
+    void zetUitvoer(const wxString& tekst);
+
+    // What the workers call to probe and to collect (the core's walk; a
+    // test may put a slow stand-in here).
+    std::function<bool(const wxString&, int, const kern::Families&, kern::Aanwezig&, kern::Voortgang*)>
+        onderzoeker = kern::onderzoekMap;
+    using Verzamelaar = bool (*)(const wxString&, int, const kern::Families&, wxArrayString&, std::size_t*,
+                                 kern::Voortgang*);
+    std::function<bool(const wxString&, int, const kern::Families&, wxArrayString&, std::size_t*,
+                       kern::Voortgang*)>
+        verzamelaar = static_cast<Verzamelaar>(kern::verzamelBestanden);
+    // Shown while an Add has walked longer than half a second.
+    wxProgressDialog* voortgangDialoog = nullptr;
+
 private:
     void Init();
     void herstelToestand();
@@ -256,5 +289,21 @@ private:
     void toonHuidigeLokatie();
     void koppelPadVelden();
     void neemGetyptPad(wxFileDirPickerCtrlBase* kiezer);
+
+    void pasOnderzoekToe(const wxString& map, bool gelukt, const kern::Aanwezig& vlaggen);
+    void rondToevoegenAf(const wxString& map, std::shared_ptr<const wxArrayString> gevonden, std::size_t overgeslagen);
+    void voegToeInPlakken(const wxString& map, std::shared_ptr<const wxArrayString> gevonden, std::size_t van,
+                          std::size_t overgeslagen, int toegevoegd);
+    int voegBronnenToe(const wxArrayString& paden, std::size_t van, std::size_t tot, std::size_t& overgeslagen);
+    std::function<void()> volgendePlak;
+    wxTimer* plakKlok = nullptr;
+    void begintVoortgang();
+    void toonVoortgang();
+    void eindigVoortgang();
+    AchtergrondWerk onderzoekWerk{*this};
+    AchtergrondWerk verzamelWerk{*this};
+    AchtergrondWerk uitvoerWerk{*this};
+    wxTimer* voortgangKlok = nullptr;
+    std::chrono::steady_clock::time_point voortgangBegin;
     void schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&));
 };

@@ -1,6 +1,6 @@
 // Building the main window: menus, the two columns of controls, the status bar.
 #include "toepassing/klavermolvenster.h"
-#include "toepassing/lijstblok.h"
+#include "toepassing/bronlijstweergave.h"
 
 #include <wx/bmpbuttn.h>
 #include <wx/button.h>
@@ -17,6 +17,8 @@
 #include <wx/statusbr.h>
 #include <wx/textctrl.h>
 #include <wx/tglbtn.h>
+
+#include <functional>
 
 namespace {
 
@@ -43,16 +45,25 @@ wxBitmapButton* maakBeeldKnop(wxWindow* ouder, int id, const wxBitmapBundle& bee
     return knop;
 }
 
-wxCheckListBox* maakLijstPagina(wxNotebook* boek, int paneelId, int lijstId, long stijl, const wxString& titel)
+// A notebook page with one list that fills it; `maak` makes the list on the page.
+template <class Lijst>
+Lijst* maakLijstPagina(wxNotebook* boek, int paneelId, const wxString& titel, const std::function<Lijst*(wxWindow*)>& maak)
 {
     auto* paneel = new wxPanel(boek, paneelId, wxDefaultPosition, wxDefaultSize, wxSUNKEN_BORDER | wxTAB_TRAVERSAL);
     auto* sizer = new wxBoxSizer(wxHORIZONTAL);
     paneel->SetSizer(sizer);
-    auto* lijst = new wxCheckListBox(paneel, lijstId, wxDefaultPosition, wxDefaultSize, wxArrayString(), stijl);
+    Lijst* lijst = maak(paneel);
     lijst->SetToolTip(_("These entries (when checked) will be included in the CMake file."));
     sizer->Add(lijst, 1, wxGROW | wxALL, 0);
     boek->AddPage(paneel, titel);
     return lijst;
+}
+
+wxCheckListBox* maakLijstPagina(wxNotebook* boek, int paneelId, int lijstId, long stijl, const wxString& titel)
+{
+    return maakLijstPagina<wxCheckListBox>(boek, paneelId, titel, [=](wxWindow* paneel) {
+        return new wxCheckListBox(paneel, lijstId, wxDefaultPosition, wxDefaultSize, wxArrayString(), stijl);
+    });
 }
 
 } // namespace
@@ -202,9 +213,10 @@ void KlavermolVenster::CreateControls()
 
     selektieBoek = new wxNotebook(paneel, SelektieBoekID);
     links->Add(selektieBoek, 1, wxGROW | wxALL, 5);
-    bestandSelektieLijst = maakLijstPagina(selektieBoek, BronPaneelID, BestandSelektieLijstID,
-                                           wxLB_MULTIPLE | wxLB_HSCROLL, _("Source Files"));
-    maakRijenVast(bestandSelektieLijst);
+    bestandSelektieLijst = maakLijstPagina<BronLijstWeergave>(selektieBoek, BronPaneelID, _("Source Files"),
+                                                              [this](wxWindow* paneel) {
+        return new BronLijstWeergave(paneel, BestandSelektieLijstID, bronSelektie);
+    });
     biebLijst = maakLijstPagina(selektieBoek, BiebPaneelID, BiebLijstID, wxLB_MULTIPLE | wxBORDER_THEME,
                                 _("Libraries"));
     includeLijst = maakLijstPagina(selektieBoek, IncludePaneelID, IncludeLijstID,

@@ -1,5 +1,5 @@
-// Execute: the generators write into a buffer; the output control receives
-// the finished text in one call.
+// Execute: the generators write into a buffer on a worker; the output
+// control receives the finished text, or its head, in one call.
 #include "toepassing/klavermolvenster.h"
 
 #include "kern/namen.h"
@@ -13,18 +13,22 @@
 #include <wx/textctrl.h>
 #include <wx/utils.h>
 
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+// How much of the text the output control shows: its layout stays short.
+const size_t zichtbareTekens = 128 * 1024;
+
+} // namespace
+
 kern::GeneratorInvoer KlavermolVenster::geefGeneratorInvoer() const
 {
     kern::GeneratorInvoer invoer;
-    // The texts come from the selection model, which holds the list's
-    // entries in the list's order; only the check marks are asked of the
-    // control.
-    wxASSERT(bronSelektie.aantal() == bestandSelektieLijst->GetCount());
-    wxArrayInt aangevinkt;
-    bestandSelektieLijst->GetCheckedItems(aangevinkt);
-    invoer.bronnen.reserve(aangevinkt.size());
-    for (int i : aangevinkt)
-        invoer.bronnen.Add(bronSelektie.geef(static_cast<size_t>(i)));
+    // The list shows the selection store: the generator reads its checked
+    // entries there.
+    invoer.selektie = &bronSelektie;
 
     for (size_t m = 0; m < subDirPaden.size(); ++m)
         invoer.biebs.push_back({subDirPaden[m], subDirBiebNamen[m], biebLijst->IsChecked(static_cast<unsigned>(m))});
@@ -49,7 +53,7 @@ void KlavermolVenster::OnGenerateCMakeHandler(wxCommandEvent&)
         return;
     }
     wxBusyCursor bezig;
-    uitvoerTekst->Clear();
+    zetUitvoer(wxString());
     werklijsten.leeg();
     switch (uitvoerSoortKeuze->GetSelection()) {
     case kern::SoortProjekt: maakProjekt(); break;
@@ -61,9 +65,39 @@ void KlavermolVenster::OnGenerateCMakeHandler(wxCommandEvent&)
 
 void KlavermolVenster::schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&))
 {
-    wxString tekst;
-    generator(geefGeneratorInvoer(), werklijsten, tekst);
-    uitvoerTekst->AppendText(tekst);
+    // The generator runs on a worker with its own working lists; the window
+    // takes them and the text when it is done.
+    // The worker reads its own copy of the store: a compact block, copied
+    // in one go, that a later Add or Clear cannot change under it.
+    auto selektie = std::make_shared<const kern::BronSelektie>(bronSelektie);
+    auto invoer = std::make_shared<kern::GeneratorInvoer>(geefGeneratorInvoer());
+    invoer->selektie = selektie.get();
+    uitvoerWerk.start([this, invoer, selektie, generator](kern::Voortgang&) -> AchtergrondWerk::Afronding {
+        auto werk = std::make_shared<kern::Werklijsten>();
+        auto tekst = std::make_shared<wxString>();
+        generator(*invoer, *werk, *tekst);
+        return [this, werk, tekst] {
+            werklijsten = std::move(*werk);
+            zetUitvoer(*tekst);
+        };
+    });
+}
+
+void KlavermolVenster::zetUitvoer(const wxString& tekst)
+{
+    volledigeUitvoer = tekst;
+    if (tekst.length() <= zichtbareTekens) {
+        uitvoerTekst->ChangeValue(tekst);
+        return;
+    }
+    // The text control lays out all it holds at once: a long text shows
+    // its head, whole lines, and a note of what follows.
+    const size_t einde = tekst.rfind('\n', zichtbareTekens - 1) + 1;
+    const unsigned long regels = static_cast<unsigned long>(std::count(tekst.begin() + einde, tekst.end(), '\n'));
+    uitvoerTekst->ChangeValue(
+        tekst.Left(einde)
+        + wxString::Format(_("[... %lu more lines are not shown here; Save writes the whole text.]"), regels)
+        + "\n");
 }
 
 void KlavermolVenster::maakProjekt()

@@ -1,6 +1,9 @@
 // Operations on the three checked lists: clear, select all, double click.
+// The "Source Files" list shows the selection store: these operations
+// change the store and refresh the view once, never row by row.
 #include "toepassing/klavermolvenster.h"
 
+#include "toepassing/bronlijstweergave.h"
 #include "toepassing/lijstblok.h"
 
 #include <wx/checklst.h>
@@ -9,12 +12,6 @@
 #include <wx/tglbtn.h>
 
 namespace {
-
-// The directory of an entry: its path part, with volume, native, no closing separator.
-wxString mapVan(const wxString& pad)
-{
-    return wxFileName(pad).GetPath(wxPATH_GET_VOLUME, wxPATH_NATIVE);
-}
 
 void zetAlleVinkjes(wxCheckListBox* lijst, bool aan)
 {
@@ -29,8 +26,8 @@ void zetAlleVinkjes(wxCheckListBox* lijst, bool aan)
 void KlavermolVenster::OnClearClick(wxCommandEvent&)
 {
     const int pagina = selektieBoek->GetSelection();
-    wxCheckListBox* lijst = pagina == 1 ? biebLijst : pagina == 0 ? bestandSelektieLijst : includeLijst;
-    const int aantal = static_cast<int>(lijst->GetCount());
+    wxCheckListBox* lijst = pagina == 1 ? biebLijst : pagina == 0 ? nullptr : includeLijst;
+    const int aantal = static_cast<int>(lijst != nullptr ? lijst->GetCount() : bestandSelektieLijst->GetCount());
     if (aantal >= 10) {
         const wxString vraag = wxString(_("%d files are present the visible selection list.")) + "\n"
             + _("Do you want to remove them all?");
@@ -38,14 +35,17 @@ void KlavermolVenster::OnClearClick(wxCommandEvent&)
                          this) != wxYES)
             return;
     }
+    if (lijst == nullptr) {
+        bronSelektie.wis();
+        bestandSelektieLijst->ververs(0);
+        return;
+    }
     // Emptied in one step: the toolkit answers every row removed from a
     // shown list on its own, which is quadratic in the row count.
     lijst->Freeze();
     leegLijst(lijst);
     lijst->Thaw();
-    if (lijst == bestandSelektieLijst)
-        bronSelektie.wis();
-    else if (lijst == biebLijst) {
+    if (lijst == biebLijst) {
         subDirPaden.Clear();
         subDirBiebNamen.Clear();
     } else {
@@ -58,24 +58,21 @@ void KlavermolVenster::OnSELECTALLClick(wxCommandEvent& event)
     const bool aan = event.IsChecked();
     selekteerAllesKnop->SetLabel(aan ? _("Deselect All") : _("Select All"));
     // The "Include files" page acts on the "Libraries" list, as does page 1.
-    zetAlleVinkjes(selektieBoek->GetSelection() == 0 ? bestandSelektieLijst : biebLijst, aan);
+    if (selektieBoek->GetSelection() != 0) {
+        zetAlleVinkjes(biebLijst, aan);
+        return;
+    }
+    bronSelektie.zetAllesAangevinkt(aan);
+    bestandSelektieLijst->Refresh();
 }
 
-void KlavermolVenster::OnBestandSelektieLijstIDDoubleClicked(wxCommandEvent& event)
+void KlavermolVenster::OnBestandSelektieLijstIDDoubleClicked(wxListEvent& event)
 {
-    // The double-clicked entry: on this multiple-selection list the toolkit's
-    // single-selection query is not available, the event names the entry.
-    const int rij = event.GetInt();
-    const wxString gekozen = rij >= 0 && static_cast<unsigned>(rij) < bestandSelektieLijst->GetCount()
-        ? bestandSelektieLijst->GetString(static_cast<unsigned>(rij))
-        : wxString();
-    const wxString map = mapVan(gekozen);
-    const wxArrayString regels = bestandSelektieLijst->GetStrings();
-    if (regels.empty())
+    // The double-clicked entry is the one the event names; its directory's
+    // entries flip, each on its own.
+    const long rij = event.GetIndex();
+    if (rij < 0 || static_cast<std::size_t>(rij) >= bronSelektie.aantal())
         return;
-    bestandSelektieLijst->Freeze();
-    for (unsigned int i = 0; i < regels.size(); ++i)
-        if (mapVan(regels[i]) == map)
-            bestandSelektieLijst->Check(i, !bestandSelektieLijst->IsChecked(i));
-    bestandSelektieLijst->Thaw();
+    bronSelektie.wisselMap(static_cast<std::size_t>(rij));
+    bestandSelektieLijst->Refresh();
 }

@@ -3,6 +3,7 @@
 #include "toepassing/klavermolvenster.h"
 
 #include <wx/checklst.h>
+#include "toepassing/bronlijstweergave.h"
 #include <wx/choice.h>
 #include <wx/notebook.h>
 #include <wx/textctrl.h>
@@ -65,8 +66,10 @@ void KlavermolVenster::OnVoegToeCMakeIncludeIDUpdate(wxUpdateUIEvent& event)
 void KlavermolVenster::OnClearUpdate(wxUpdateUIEvent& event)
 {
     const int pagina = selektieBoek->GetSelection();
-    const wxCheckListBox* lijst = pagina == 1 ? biebLijst : pagina == 0 ? bestandSelektieLijst : includeLijst;
-    event.Enable(lijst->GetCount() > 0);
+    event.Enable((pagina == 1   ? biebLijst->GetCount()
+                  : pagina == 0 ? bestandSelektieLijst->GetCount()
+                                : includeLijst->GetCount())
+                 > 0);
 }
 
 void KlavermolVenster::OnCMakeProjektKeuzeIDUpdate(wxUpdateUIEvent& event)

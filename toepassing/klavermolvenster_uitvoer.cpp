@@ -147,6 +147,6 @@ void KlavermolVenster::SlaOpCMakeHandler(wxCommandEvent&)
     if (pad.empty())
         pad = wxFileName(dialoog.GetDirectory(), dialoog.GetFilename()).GetFullPath();
     wxString reden;
-    if (!kern::schrijfTekstBestand(pad, uitvoerTekst->GetValue(), &reden))
+    if (!kern::schrijfTekstBestand(pad, volledigeUitvoer, &reden))
         wxLogError(wxString(_("Failed to open output file ")) + pad + _(" for writing to.") + "\n" + reden);
 }

@@ -1,14 +1,13 @@
 // The file-type switches, the filter text and wildcard, the probe of the
 // search location and the Add command.
 #include "toepassing/klavermolvenster.h"
-#include "toepassing/lijstblok.h"
+#include "toepassing/bronlijstweergave.h"
 
 #include "desktopAppBasis.h"
 #include "kern/bronzoeker.h"
 #include "toepassing/padveld.h"
 
 #include <wx/checkbox.h>
-#include <wx/checklst.h>
 #include <wx/filedlg.h>
 #include <wx/log.h>
 #include <wx/msgdlg.h>
@@ -16,7 +15,12 @@
 #include <wx/choice.h>
 #include <wx/filepicker.h>
 #include <wx/menu.h>
+#include <wx/timer.h>
 #include <wx/utils.h>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -112,18 +116,27 @@ void KlavermolVenster::OnSelekteerBestandType()
 
 void KlavermolVenster::onderzoekPadOpBestanden()
 {
+    // The probe runs on a worker from copies of what it needs; a later
+    // probe stops this one, and only the latest result is applied.
     const wxString map = wxFileName::DirName(vindBestandenInDirs->GetPath()).GetFullPath();
     kern::Aanwezig vlaggen;
     vlaggen.c = heeftCBestanden;
     vlaggen.cpp = heeftCPPBestanden;
     vlaggen.h = heeftHBestanden;
     vlaggen.s = heeftSBestanden;
-
-    wxBusyCursor bezig;
     const int modus = voegToeModeKeuze->GetSelection();
     const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
                                             voegSBestandenToe);
-    if (!kern::onderzoekMap(map, modus, aan, vlaggen)) {
+    onderzoekWerk.start([this, map, modus, aan, vlaggen, onderzoek = onderzoeker](
+                            kern::Voortgang& voortgang) mutable -> AchtergrondWerk::Afronding {
+        const bool gelukt = onderzoek(map, modus, aan, vlaggen, &voortgang);
+        return [this, map, gelukt, vlaggen] { pasOnderzoekToe(map, gelukt, vlaggen); };
+    });
+}
+
+void KlavermolVenster::pasOnderzoekToe(const wxString& map, bool gelukt, const kern::Aanwezig& vlaggen)
+{
+    if (!gelukt) {
         wxFAIL_COND_MSG(true == mag, "(KlavermolVenster::onderzoekPadOpBestanden) " + map);
         return;
     }
@@ -163,65 +176,106 @@ wxArrayString KlavermolVenster::kiesBestanden(const wxString& map)
 
 int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen)
 {
+    return voegBronnenToe(paden, 0, paden.size(), overgeslagen);
+}
+
+int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t van, std::size_t tot,
+                                     std::size_t& overgeslagen)
+{
     wxBusyCursor bezig;
     // Asked once: the trace line per file is built only when it is kept.
     const bool spoor = wxLog::IsLevelEnabled(wxLOG_Debug, wxASCII_STR(wxLOG_COMPONENT));
-    wxArrayString nieuw;
-    nieuw.reserve(paden.size());
-    for (const wxString& pad : paden) {
+    const std::size_t voor = bronSelektie.aantal();
+    for (std::size_t i = van; i < tot; ++i) {
+        const wxString& pad = paden[i];
         if (spoor)
             wxLogDebug("OnAddCLick : voeg toe bestand: " + DesktopAppBasis::dubbeleQuotes(pad, false));
         if (!kern::kanCMakeNoemen(pad))
             ++overgeslagen;
-        else if (bronSelektie.voegToe(pad))
-            nieuw.Add(pad);
-        else
+        else if (!bronSelektie.voegToe(pad))
             wxLogMessage(pad + _(" won't be added since it is already in your selection list."));
     }
-    if (nieuw.empty())
-        return 0;
-
-    // One batch for the control, however many files.
-    voegToeAanLijst(bestandSelektieLijst, nieuw);
-    return static_cast<int>(nieuw.size());
+    const std::size_t toegevoegd = bronSelektie.aantal() - voor;
+    // One refresh of the view, however many files.
+    if (toegevoegd != 0)
+        bestandSelektieLijst->ververs(voor);
+    return static_cast<int>(toegevoegd);
 }
 
 void KlavermolVenster::OnAddClick(wxCommandEvent&)
 {
+    if (volgendePlak)
+        return; // the previous Add is still taking its files in
     if (!zoekMapBestaat())
         return;
-    const wxFileName zoekMap = wxFileName::DirName(vindBestandenInDirs->GetPath());
-    const wxString map = zoekMap.GetFullPath();
-    wxArrayString gevonden;
-    std::size_t overgeslagen = 0;
+    const wxString map = wxFileName::DirName(vindBestandenInDirs->GetPath()).GetFullPath();
     const int modus = voegToeModeKeuze->GetSelection();
     if (modus == kern::ModusBestanden) {
-        gevonden = kiesBestanden(map);
-    } else if (modus == kern::ModusMap || modus == kern::ModusRecursief) {
-        wxBusyCursor bezig;
-        const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
-                                                voegSBestandenToe);
-        if (!kern::verzamelBestanden(map, modus, aan, gevonden, &overgeslagen))
-            wxFAIL_COND_MSG(true == mag, "(KlavermolVenster::OnAddClick) " + map);
+        rondToevoegenAf(map, std::make_shared<const wxArrayString>(kiesBestanden(map)), 0);
+        return;
     }
+    if (modus != kern::ModusMap && modus != kern::ModusRecursief) {
+        rondToevoegenAf(map, std::make_shared<const wxArrayString>(), 0);
+        return;
+    }
+    const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
+                                            voegSBestandenToe);
+    verzamelWerk.start([this, map, modus, aan, verzamel = verzamelaar](
+                           kern::Voortgang& voortgang) -> AchtergrondWerk::Afronding {
+        auto gevonden = std::make_shared<wxArrayString>();
+        std::size_t overgeslagen = 0;
+        const bool gelukt = verzamel(map, modus, aan, *gevonden, &overgeslagen, &voortgang);
+        return [this, map, gelukt, gevonden, overgeslagen] {
+            eindigVoortgang();
+            if (!gelukt)
+                wxFAIL_COND_MSG(true == mag, "(KlavermolVenster::OnAddClick) " + map);
+            rondToevoegenAf(map, gevonden, overgeslagen);
+        };
+    });
+    begintVoortgang();
+}
 
-    const int aantal = static_cast<int>(gevonden.size());
+void KlavermolVenster::rondToevoegenAf(const wxString& map, std::shared_ptr<const wxArrayString> gevonden,
+                                       std::size_t overgeslagen)
+{
+    const int aantal = static_cast<int>(gevonden->size());
     wxLogDebug("The selected directory resulted in the addition of %d files", aantal);
-    int toegevoegd = 0;
     const bool verder = aantal <= 10
         || wxMessageBox(wxString::Format(_("%d files were found and will be added to the selection list.\nDo you "
                                            "want to proceed?"),
                                          aantal),
                         _("More than 10 files found"), wxYES_NO | wxICON_QUESTION, this) == wxYES;
-    if (verder) {
-        toegevoegd = voegBronnenToe(gevonden, overgeslagen);
-        if (overgeslagen != 0)
-            wxLogWarning(kern::geefOvergeslagenMelding(overgeslagen));
-    }
+    if (verder)
+        voegToeInPlakken(map, gevonden, 0, overgeslagen, 0);
+    else
+        voegToeInPlakken(map, std::make_shared<const wxArrayString>(), 0, 0, 0);
+}
 
+void KlavermolVenster::voegToeInPlakken(const wxString& map, std::shared_ptr<const wxArrayString> gevonden,
+                                        std::size_t van, std::size_t overgeslagen, int toegevoegd)
+{
+    // Taken in slices, the event loop running between them.
+    const std::size_t plakGrootte = 10000;
+    const std::size_t tot = std::min(gevonden->size(), van + plakGrootte);
+    toegevoegd += voegBronnenToe(*gevonden, van, tot, overgeslagen);
+    if (tot < gevonden->size()) {
+        // The next slice after the event loop's own work: a timer, since a
+        // queued call would run at once with the other queued events.
+        volgendePlak = [=] { voegToeInPlakken(map, gevonden, tot, overgeslagen, toegevoegd); };
+        if (plakKlok == nullptr) {
+            plakKlok = new wxTimer(this);
+            Bind(wxEVT_TIMER, [this](wxTimerEvent&) { std::exchange(volgendePlak, nullptr)(); }, plakKlok->GetId());
+        }
+        plakKlok->StartOnce(1);
+        return;
+    }
+    if (overgeslagen != 0)
+        wxLogWarning(kern::geefOvergeslagenMelding(overgeslagen));
+
+    // The search directory counts as a directory: its name part is empty.
     PopStatusText(0);
-    PushStatusText(wxString::Format(_("A total of %d files and dirs was found in "), toegevoegd) + zoekMap.GetFullName()
-                       + _(" and added to the selection."),
+    PushStatusText(wxString::Format(_("A total of %d files and dirs was found in "), toegevoegd)
+                       + wxFileName::DirName(map).GetFullName() + _(" and added to the selection."),
                    0);
     selektieBoek->SetSelection(0);
     recenteLokaties.AddFileToHistory(map);

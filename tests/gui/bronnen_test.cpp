@@ -41,8 +41,10 @@ protected:
 
     std::vector<wxString> lijst() const
     {
-        const wxArrayString regels = venster().bestandSelektieLijst->GetStrings();
-        return std::vector<wxString>(regels.begin(), regels.end());
+        std::vector<wxString> regels;
+        for (unsigned int i = 0; i < venster().bestandSelektieLijst->GetCount(); ++i)
+            regels.push_back(venster().bestandSelektieLijst->GetString(i));
+        return regels;
     }
 
     wxString status() const { return venster().GetStatusBar()->GetStatusText(0); }

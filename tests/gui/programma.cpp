@@ -1,5 +1,7 @@
 #include "programma.h"
 
+#include <wx/apptrait.h>
+
 #include <wx/app.h>
 #include <wx/choice.h>
 #include <wx/statusbr.h>
@@ -158,6 +160,8 @@ void ProgrammaTest::start()
         std::_Exit(1);
     }
     gestart = true;
+    lus.reset(wxTheApp->GetTraits()->CreateEventLoop());
+    wxEventLoopBase::SetActive(lus.get());
     // the toolkit's initialisation puts its own log target in place
     wxLog::SetActiveTarget(new OpnameLog(alleLog));
     ASSERT_TRUE(wxTheApp->CallOnInit());
@@ -175,6 +179,8 @@ void ProgrammaTest::stop()
     wxTheApp->ProcessPendingEvents();
     wxTheApp->ProcessIdle();
     wxTheApp->OnExit();
+    wxEventLoopBase::SetActive(nullptr);
+    lus.reset();
     wxEntryCleanup();
 }
 
@@ -196,8 +202,17 @@ KlavermolVenster& ProgrammaTest::venster() const
     return *app().geefVenster();
 }
 
+void ProgrammaTest::wachtOpVenster()
+{
+    while (app().geefVenster() != nullptr && venster().isBezig()) {
+        wxTheApp->ProcessPendingEvents();
+        wxTheApp->Yield(true);
+    }
+}
+
 void ProgrammaTest::verwerk()
 {
+    wachtOpVenster();
     for (int i = 0; i < 3; ++i) {
         wxTheApp->ProcessPendingEvents();
         wxTheApp->Yield(true);
@@ -211,6 +226,7 @@ void ProgrammaTest::opdracht(wxEventType soort, int id, int waarde)
     wxCommandEvent e(soort, id);
     e.SetInt(waarde);
     venster().ProcessWindowEvent(e);
+    wachtOpVenster();
 }
 
 bool ProgrammaTest::aan(int id)
@@ -226,6 +242,7 @@ void ProgrammaTest::kiesZoekMap(const wxString& pad)
     venster().vindBestandenInDirs->SetPath(pad);
     wxFileDirPickerEvent e(wxEVT_DIRPICKER_CHANGED, venster().vindBestandenInDirs, VindBestandenInDirsID, pad);
     venster().ProcessWindowEvent(e);
+    wachtOpVenster();
 }
 
 void ProgrammaTest::wachtTot(const std::function<bool()>& klaar, const char* wat)

@@ -3,9 +3,11 @@
 // its own settings file, a fixed language, a recording log, wx assertions
 // turned into test failures unless expected, and no real restart.
 #include "toepassing/klavermol.h"
+#include "toepassing/bronlijstweergave.h"
 #include "toepassing/klavermolvenster.h"
 
 #include <gtest/gtest.h>
+#include <wx/evtloop.h>
 #include <wx/fileconf.h>
 #include <wx/log.h>
 #include <wx/msgdlg.h>
@@ -45,6 +47,8 @@ protected:
 
     // Lets pending events and idle processing run; refreshes update-UI state.
     void verwerk();
+    // Until the window's probe or Add on its workers has been applied.
+    void wachtOpVenster();
 
     // Sends a command event (button, menu, check box...) to the main window.
     void opdracht(wxEventType soort, int id, int waarde = 0);
@@ -92,6 +96,10 @@ protected:
 private:
     bool eigenThuis = true;
     bool gestart = false;
+    // The loop every wait of the test runs in, as the program's main loop
+    // would be: without one, each yield and each progress dialog makes a
+    // passing loop of its own, which can go while it still runs.
+    std::unique_ptr<wxEventLoopBase> lus;
     int eersteTaal = -1;
     std::string instellingen;
 };

@@ -211,12 +211,12 @@ TEST_F(Uitvoer, SaveWritesUtf8AndItsWildcardFollowsTheProjectTypeNotTheKind)
     KlavermolVenster& v = venster();
     const wxString map = maakMap("uit");
     v.outputDirPicker->SetPath(map);
-    v.uitvoerTekst->ChangeValue(wxString::FromUTF8("set(Naam Caf\xC3\xA9)\n"));
+    v.zetUitvoer(wxString::FromUTF8("set(Naam Caf\xC3\xA9)\n"));
     wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(map + "/CMakeLists.txt", "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
     EXPECT_EQ(leesBytes(map + "/CMakeLists.txt"), "set(Naam Caf\xC3\xA9)\n"); // no byte-order mark
     EXPECT_FALSE(v.uitvoerTekst->IsEmpty());
 
-    v.uitvoerTekst->ChangeValue("x");
+    v.zetUitvoer("x");
     typNaam("Common");
     kiesSoort(2);
     v.cmakeProjektKeuze->SetSelection(1);
@@ -233,7 +233,7 @@ TEST_F(Uitvoer, SaveFaultsShowTheErrorAndKeepTheOldFilesAndTheText)
     start();
     KlavermolVenster& v = venster();
     const wxString tekst('x', 100000);
-    v.uitvoerTekst->ChangeValue(tekst);
+    v.zetUitvoer(tekst);
     const wxString map = v.outputDirPicker->GetPath();
     const wxString alleen = maakBestand(map + "/alleen.txt");
     wxChmod(alleen, 0444);

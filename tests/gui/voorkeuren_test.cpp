@@ -34,11 +34,11 @@ const VeldRegel velden[] = {
     {&kern::Sjablonen::includeKommando, "IncludeKommando", 3, "Include generation command ", true},
 };
 
+// The label of its box, or of its grid row.
 wxString labelVan(wxTextCtrl* tekst)
 {
-    if (auto* kader = dynamic_cast<wxStaticBox*>(tekst->GetParent()))
-        return kader->GetLabel();
-    return tekst->GetPrevSibling()->GetLabel();
+    auto* kader = dynamic_cast<wxStaticBox*>(tekst->GetParent());
+    return kader ? kader->GetLabel() : tekst->GetPrevSibling()->GetLabel();
 }
 
 } // namespace
@@ -65,6 +65,7 @@ protected:
         }
     }
 
+    // What the exit writes under "/Configuratie".
     void verwachtBewaard(const std::function<wxString(const VeldRegel&)>& waarde)
     {
         stop();
@@ -73,12 +74,6 @@ protected:
             EXPECT_EQ(config->Read(wxString("/Configuratie/") + v.sleutel, "missing"), waarde(v)) << v.sleutel;
     }
 
-    wxString voerUit()
-    {
-        venster().outputDirPicker->SetPath(thuis);
-        klik(wxID_APPLY);
-        return venster().uitvoerTekst->GetValue();
-    }
 };
 
 // Shown as stored (nothing expanded), each on its page under its label;
@@ -126,7 +121,9 @@ TEST_F(Voorkeuren, OkTakesTheTextsForExecuteAndTheExitWritesSeven)
             dlg.geefTekst(v.lid)->SetValue(bevestigd(v));
     });
     verwachtOveral(nullptr, bevestigd);
-    const wxString tekst = voerUit();
+    venster().outputDirPicker->SetPath(thuis);
+    klik(wxID_APPLY);
+    const wxString tekst = venster().uitvoerTekst->GetValue();
     for (const char* stuk : {"## confirmed KopieerrechtMededeling\n", "\n## confirmed ProjektKommando\n"})
         EXPECT_NE(tekst.Find(stuk), wxNOT_FOUND) << stuk;
     open(wxID_CANCEL, [&](Preferences& dlg) { verwachtOveral(&dlg, bevestigd); });

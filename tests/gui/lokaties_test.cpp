@@ -117,7 +117,7 @@ TEST_F(Lokaties, TheRecentLocationsKeepNineAndOfferThemNewestFirst)
     }
     wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(verwacht, 1, wxID_CANCEL));
     EXPECT_EQ(picker(), thuis + "/d9");
-    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(verwacht, 1, wxID_OK));
-    EXPECT_EQ(picker(), thuis + "/d8/");
+    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(verwacht, 0, wxID_OK));
+    EXPECT_EQ(picker(), thuis + "/d9/");
     EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 0u);
 }

@@ -73,7 +73,6 @@ protected:
         for (const VeldRegel& v : velden)
             EXPECT_EQ(config->Read(wxString("/Configuratie/") + v.sleutel, "missing"), waarde(v)) << v.sleutel;
     }
-
 };
 
 // Shown as stored (nothing expanded), each on its page under its label;

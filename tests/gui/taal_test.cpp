@@ -207,6 +207,9 @@ TEST_F(Taal, TheAboutMenuShowsDescriptionVersionAndCreditsInOrder)
     EXPECT_EQ(ouder, &venster());
     EXPECT_EQ(getoond.GetName(), "Klavermol");
     EXPECT_EQ(getoond.GetVersion(), "07.09.2020_2.0.0.a");
+    EXPECT_EQ(getoond.GetCopyright() + " " + getoond.GetWebSiteURL(),
+              "(c) 2016-2020 Zelvano. All rights reserved. https://www.zelvano.nl");
+    EXPECT_TRUE(getoond.GetIcon().IsOk());
     const wxString platform = app().geefPlatformBeschrijving();
     EXPECT_EQ(platform, "wxGTK Linux(64 bit)");
     EXPECT_TRUE(getoond.GetDescription().StartsWith(platform + "\n\nKlavermol simplifies applying CMake"));

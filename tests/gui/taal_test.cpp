@@ -99,19 +99,14 @@ protected:
     // text and the project name.
     std::vector<wxString> teksten() const
     {
-        KlavermolVenster& v = venster();
-        std::vector<wxString> uit;
-        for (size_t i = 0; i < 3; ++i)
-            uit.push_back(menuTitel(i));
-        for (size_t i = 0; i < 3; ++i)
-            uit.push_back(v.selektieBoek->GetPageText(i));
-        for (int id : {wxID_EXIT, wxID_PREFERENCES})
-            uit.push_back(v.GetMenuBar()->FindItem(id)->GetItemLabel());
-        for (int id : {wxID_SAVE, wxID_CLEAR, wxID_EXIT})
-            uit.push_back(v.FindWindow(id)->GetLabel());
-        uit.push_back(v.GetStatusBar()->GetStatusText(1));
-        uit.push_back(v.projektLibIncludeNaam->GetValue());
-        return uit;
+        const KlavermolVenster& v = venster();
+        const wxMenuBar* m = v.GetMenuBar();
+        const wxBookCtrlBase* b = v.selektieBoek;
+        return {m->GetMenuLabelText(0), m->GetMenuLabelText(1), m->GetMenuLabelText(2), b->GetPageText(0),
+                b->GetPageText(1), b->GetPageText(2), m->FindItem(wxID_EXIT)->GetItemLabel(),
+                m->FindItem(wxID_PREFERENCES)->GetItemLabel(), v.FindWindow(wxID_SAVE)->GetLabel(),
+                v.FindWindow(wxID_CLEAR)->GetLabel(), v.FindWindow(wxID_EXIT)->GetLabel(),
+                v.GetStatusBar()->GetStatusText(1), v.projektLibIncludeNaam->GetValue()};
     }
 
     // Execute for the given output kind with one source file; the text it wrote.

@@ -64,25 +64,26 @@ protected:
                 EXPECT_EQ(dlg->geefTekst(v.lid)->GetValue(), waarde(v)) << v.sleutel;
         }
     }
-
-    // What the exit writes under "/Configuratie".
-    void verwachtBewaard(const std::function<wxString(const VeldRegel&)>& waarde)
-    {
-        stop();
-        auto config = leesInstellingen();
-        for (const VeldRegel& v : velden)
-            EXPECT_EQ(config->Read(wxString("/Configuratie/") + v.sleutel, "missing"), waarde(v)) << v.sleutel;
-    }
 };
 
-// Shown as stored (nothing expanded), each on its page under its label;
-// Help does nothing, and Cancel after editing hands nothing back.
-TEST_F(Voorkeuren, TheStoredTemplatesAsShownAndCancel)
+// Every other text is stored: shown as stored (nothing expanded), the others
+// as the defaults, each on its page under its label. Help does nothing and
+// Cancel after editing hands nothing back; OK takes every text as it is,
+// emptied ones too, for Execute and the next opening. The exit writes all
+// but the shared and object library commands.
+TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
 {
-    const auto opgeslagen = [](const VeldRegel& v) { return wxString("## stored $HOME ") + v.sleutel; };
+    const auto opgeslagen = [](const VeldRegel& v) { return (&v - velden) % 2 == 0; };
+    const auto eerst = [&](const VeldRegel& v) {
+        return opgeslagen(v) ? wxString("## stored $HOME ") + v.sleutel : kern::geefStandaardSjablonen().*v.lid;
+    };
+    const auto bevestigd = [](const VeldRegel& v) {
+        return v.pagina == 2 && v.bewaard ? wxString() : wxString("## confirmed ") + v.sleutel + "\n";
+    };
     std::string inhoud = "[Configuratie]\n";
     for (const VeldRegel& v : velden)
-        inhoud += std::string(v.sleutel) + "=" + opgeslagen(v).ToStdString() + "\n";
+        if (opgeslagen(v))
+            inhoud += std::string(v.sleutel) + "=" + eerst(v).ToStdString() + "\n";
     schrijfInstellingen(inhoud);
     start();
     open(wxID_CANCEL, [&](Preferences& dlg) {
@@ -95,27 +96,12 @@ TEST_F(Voorkeuren, TheStoredTemplatesAsShownAndCancel)
         for (const VeldRegel& v : velden) {
             EXPECT_TRUE(boek->GetPage(v.pagina)->IsDescendant(dlg.geefTekst(v.lid))) << v.sleutel;
             EXPECT_EQ(labelVan(dlg.geefTekst(v.lid)), v.label) << v.sleutel;
-        }
-        verwachtOveral(&dlg, opgeslagen);
-        for (const VeldRegel& v : velden)
             dlg.geefTekst(v.lid)->SetValue("edited");
+        }
         EXPECT_EQ(bedien(dlg, wxID_HELP, [] {}), wxID_NONE);
     });
-    verwachtOveral(nullptr, opgeslagen);
-    verwachtBewaard(opgeslagen);
-}
-
-// OK takes every text as it is, emptied ones too, for the next Execute and
-// the next opening; the exit writes all but the shared and object library
-// commands.
-TEST_F(Voorkeuren, OkTakesTheTextsForExecuteAndTheExitWritesSeven)
-{
-    start();
-    const auto bevestigd = [](const VeldRegel& v) {
-        return v.pagina == 2 && v.bewaard ? wxString() : wxString("## confirmed ") + v.sleutel + "\n";
-    };
     open(wxID_OK, [&](Preferences& dlg) {
-        verwachtOveral(&dlg, [](const VeldRegel& v) { return kern::geefStandaardSjablonen().*v.lid; });
+        verwachtOveral(&dlg, eerst);
         for (const VeldRegel& v : velden)
             dlg.geefTekst(v.lid)->SetValue(bevestigd(v));
     });
@@ -126,5 +112,10 @@ TEST_F(Voorkeuren, OkTakesTheTextsForExecuteAndTheExitWritesSeven)
     for (const char* stuk : {"## confirmed KopieerrechtMededeling\n", "\n## confirmed ProjektKommando\n"})
         EXPECT_NE(tekst.Find(stuk), wxNOT_FOUND) << stuk;
     open(wxID_CANCEL, [&](Preferences& dlg) { verwachtOveral(&dlg, bevestigd); });
-    verwachtBewaard([&](const VeldRegel& v) { return v.bewaard ? bevestigd(v) : wxString("missing"); });
+    stop();
+    auto config = leesInstellingen();
+    for (const VeldRegel& v : velden)
+        EXPECT_EQ(config->Read(wxString("/Configuratie/") + v.sleutel, "missing"),
+                  v.bewaard ? bevestigd(v) : opgeslagen(v) ? eerst(v) : wxString("missing"))
+            << v.sleutel;
 }

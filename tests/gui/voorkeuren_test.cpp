@@ -96,6 +96,8 @@ TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
         for (const VeldRegel& v : velden) {
             EXPECT_TRUE(boek->GetPage(v.pagina)->IsDescendant(dlg.geefTekst(v.lid))) << v.sleutel;
             EXPECT_EQ(labelVan(dlg.geefTekst(v.lid)), v.label) << v.sleutel;
+            const bool naam = v.lid == &kern::Sjablonen::biebLibNaam || v.lid == &kern::Sjablonen::biebIncludeNaam;
+            EXPECT_EQ(dlg.geefTekst(v.lid)->IsMultiLine(), !naam) << v.sleutel; // the names take one line
             dlg.geefTekst(v.lid)->SetValue("edited");
         }
         EXPECT_EQ(bedien(dlg, wxID_HELP, [] {}), wxID_NONE);

@@ -4,7 +4,7 @@
 KLAVERMOL_PAKKETTEN=(build-essential cmake pkg-config libwxgtk3.2-dev libgtk-3-dev wx3.2-i18n gettext librsvg2-bin iso-flags-svg)
 KLAVERMOL_TEST_PAKKETTEN=(libgtest-dev googletest xvfb xauth xdotool locales imagemagick
                           desktop-file-utils appstream dpkg-dev file time openbox)
-KLAVERMOL_TALEN=(en_US.UTF-8 de_DE.UTF-8 nl_NL.UTF-8 fr_FR.UTF-8)
+KLAVERMOL_TALEN=(en_US.UTF-8 de_DE.UTF-8 nl_NL.UTF-8 fr_FR.UTF-8 en_GB.UTF-8)
 
 als_root() {
     if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi

@@ -1,4 +1,5 @@
 // Back, forward, home, elsewhere and the recent locations with their dialog.
+#include "gebruiker.h"
 #include "programma.h"
 
 #include "dialogs/recentelokatievenster.h"
@@ -7,7 +8,6 @@
 #include <wx/dirdlg.h>
 #include <wx/filepicker.h>
 #include <wx/listbox.h>
-#include <wx/testing.h>
 
 #include <stdexcept>
 
@@ -27,13 +27,15 @@ struct KiesMap : wxDirDialog
     }
 };
 
-// Picks a row of the recent-locations dialog, then answers.
-Antwoord<RecenteLokatieVenster> kiesRecent(int rij, int antwoord)
+// The recent-locations dialog lists `paden` and OK waits for a row; the user
+// picks row `rij`, then presses the button `knop`.
+Antwoord<RecenteLokatieVenster> kiesRecent(const wxArrayString& paden, int rij, int knop)
 {
     return Antwoord<RecenteLokatieVenster>([=](RecenteLokatieVenster& dlg) {
         EXPECT_EQ(dlg.GetTitle(), "Recent locations where you searched for CMake files");
-        dlg.geefLijst()->SetSelection(rij);
-        return antwoord;
+        EXPECT_EQ(dlg.geefLijst()->GetStrings(), paden);
+        EXPECT_EQ(bedien(dlg, wxID_OK, [&] { dlg.geefLijst()->SetSelection(wxNOT_FOUND); }), wxID_NONE);
+        return bedien(dlg, knop, [&] { dlg.geefLijst()->SetSelection(rij); });
     });
 }
 
@@ -46,24 +48,22 @@ protected:
 };
 
 // With no location Forward reaches the out-of-range error. A, B, C picked:
-// index 3, so the first Back shows C again. Each step sets the picker and
-// probes the location without recording it.
+// index 3, so the first Back shows C again; Back at index 0 stays there.
+// Each step sets the picker and probes without recording the location.
 TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
 {
     const wxString a = maakMap("A"), b = maakMap("B"), c = maakMap("C");
     maakBestand("A/x.c");
     start();
     KlavermolVenster& v = venster();
-    wxCommandEvent vooruit(wxEVT_BUTTON, wxID_FORWARD);
-    EXPECT_THROW(v.OnFORWARDClick(vooruit), std::out_of_range);
-
+    wxCommandEvent e;
+    EXPECT_THROW(v.OnFORWARDClick(e), std::out_of_range);
     v.voegCBestandenToe = true;
     v.voegToeModeKeuze->SetSelection(1);
     for (const wxString& map : {a, b, c})
         kiesZoekMap(map);
     EXPECT_EQ(v.lokatieGeschiedenis.geefIndex(), 3u);
     EXPECT_FALSE(v.heeftCBestanden);
-    EXPECT_FALSE(aan(wxID_FORWARD));
     for (const wxString& map : {c, b, a}) {
         klik(wxID_BACKWARD);
         EXPECT_EQ(picker(), map);
@@ -80,69 +80,37 @@ TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
     EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 3u);
 }
 
-// Home shows the parent of home and remembers home; elsewhere remembers the
-// choice and leaves the picker. Neither enters the back/forward history.
-TEST_F(Lokaties, HomeAndElsewhereRememberTheirLocation)
-{
-    const wxString elders = maakMap("elders");
-    start();
-    KlavermolVenster& v = venster();
-    opdracht(wxEVT_MENU, wxID_HOME);
-    EXPECT_EQ(picker(), wxFileName(thuis).GetPath());
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), thuis);
-    klik(wxID_HOME); // the button does the same
-    EXPECT_EQ(v.recenteLokaties.GetCount(), 1u);
-
-    const wxString voor = picker();
-    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(wxString()));
-    EXPECT_EQ(v.recenteLokaties.GetCount(), 1u);
-    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(elders));
-    EXPECT_EQ(v.recenteLokaties.GetCount(), 2u);
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), elders);
-    EXPECT_EQ(picker(), voor);
-    EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 0u);
-}
-
-// Every Add remembers its directory, also when nothing was found; nine are
-// kept, newest first, and the dialog sets the picker to the picked one.
+// Every Add remembers its directory, also when nothing was found; Home
+// remembers home while the picker shows its parent, Elsewhere remembers
+// the choice and leaves the picker. Nine are kept and offered newest first;
+// none enters the back/forward history. A row picked with OK goes into the
+// picker; with Cancel nothing changes.
 TEST_F(Lokaties, TheRecentLocationsKeepNineAndOfferThemNewestFirst)
 {
+    const wxString elders = maakMap("elders"), boven = wxFileName(thuis).GetPath();
     start();
     KlavermolVenster& v = venster();
     v.voegCBestandenToe = true;
     v.voegToeModeKeuze->SetSelection(1);
-    for (int i = 0; i < 10; ++i) {
+    wxArrayString verwacht;
+    for (int i = 0; i < 9; ++i) {
         v.vindBestandenInDirs->SetPath(maakMap(wxString::Format("d%d", i)));
         klik(wxID_ADD);
+        if (i > 1)
+            verwacht.Insert(thuis + wxString::Format("/d%d/", i), 0);
     }
-    ASSERT_EQ(v.recenteLokaties.GetCount(), 9u);
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), thuis + "/d9/");
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(8), thuis + "/d1/");
-
-    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(1, wxID_CANCEL));
-    EXPECT_EQ(picker(), thuis + "/d9");
-    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(1, wxID_OK));
-    EXPECT_EQ(picker(), thuis + "/d8");
+    for (wxEventType soort : {wxEVT_MENU, wxEVT_BUTTON}) {
+        v.vindBestandenInDirs->SetPath(elders);
+        opdracht(soort, wxID_HOME);
+        EXPECT_EQ(picker(), boven);
+    }
+    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(wxString()));
+    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(elders));
+    verwacht.Insert(thuis, 0);
+    verwacht.Insert(elders, 0);
+    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(verwacht, 1, wxID_CANCEL));
+    EXPECT_EQ(picker(), boven);
+    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(verwacht, 0, wxID_OK));
+    EXPECT_EQ(picker(), elders);
     EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 0u);
-}
-
-// The dialog lists the paths in the order given; OK waits for a selection.
-TEST_F(Lokaties, TheRecentDialogEnablesOkOnlyWithASelection)
-{
-    start();
-    RecenteLokatieVenster dlg(&venster());
-    wxListBox* lijst = dlg.geefLijst();
-    wxWindow* ok = dlg.FindWindow(wxID_OK);
-    wxArrayString paden;
-    for (const char* p : {"/home/user/src/newest", "/home/user/src/a", "/opt/oldest"})
-        paden.Add(p);
-    dlg.vulpaden(paden);
-    EXPECT_EQ(lijst->GetStrings(), paden);
-    for (int rij : {wxNOT_FOUND, 2, wxNOT_FOUND}) {
-        lijst->SetSelection(rij);
-        dlg.UpdateWindowUI(wxUPDATE_UI_RECURSE);
-        EXPECT_EQ(dlg.geefGekozenPad(), rij);
-        EXPECT_EQ(ok->IsEnabled(), rij != wxNOT_FOUND) << rij;
-    }
-    EXPECT_TRUE(dlg.FindWindow(wxID_CANCEL)->IsEnabled());
 }

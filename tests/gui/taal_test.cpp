@@ -1,6 +1,7 @@
 // Locale set-up and catalogues, the language dialog, the about box, the
-// interface and the generated comment lines in German and Dutch, and a
-// chosen language that is in force at the next start.
+// interface and the generated comment lines per language, and a chosen
+// language that is in force at the next start.
+#include "gebruiker.h"
 #include "programma.h"
 
 #include "dialogs/taalkeuzedialoog.h"
@@ -9,75 +10,111 @@
 #include <wx/filepicker.h>
 #include <wx/menu.h>
 #include <wx/notebook.h>
-#include <wx/testing.h>
 #include <wx/textctrl.h>
 
 #include <clocale>
 
+namespace {
+
+// Whether the machine has the locale; the toolkit cannot switch to a
+// language without it.
+bool heeftLocale(const char* locale)
+{
+    const bool er = std::setlocale(LC_ALL, locale) != nullptr;
+    std::setlocale(LC_ALL, "C");
+    return er;
+}
+
+struct StartRegel
+{
+    const char* naam;
+    int taal;
+    const char* locale;
+    std::vector<wxString> fouten; // logged at error level, in order
+    bool katalogi;                // both catalogues added
+    std::vector<wxString> teksten; // if given, as teksten() gives them
+    int soort;                     // of output that Execute writes with `stukken` in it, or -1
+    std::vector<wxString> stukken;
+};
+
+const StartRegel starts[] = {
+    {"English", wxLANGUAGE_ENGLISH, "en_US.UTF-8", {}, false, {}, -1, {}},
+    // a generated locale without catalogues of ours
+    {"French", wxLANGUAGE_FRENCH, "fr_FR.UTF-8", {"Could not add Zelvano catalog for language : French"}, false,
+     {}, -1, {}},
+    {"Swedish", wxLANGUAGE_SWEDISH, "", // a locale the machine lacks
+     {"Could not initialise the Locale for \"Swedish\" .",
+      "Could not initialise the Internationalization Locale system forKlavermol."},
+     false, {}, -1, {}},
+    // the texts are American English, so another English variant needs the
+    // English catalogues
+    {"British", wxLANGUAGE_ENGLISH_UK, "en_GB.UTF-8", {}, true, {}, -1, {}},
+    {"German", wxLANGUAGE_GERMAN, "de_DE.UTF-8", {}, true,
+     {"Allgemein", "Navigation", "Optionen", "Quelldateien", "Bibliotheken", "Include-Dateien", "Beenden\tCtrl+Q",
+      "Einstellungen\tCtrl+,", "&Speichern", "&Leeren", "&Beenden", "Der aktuelle Filter sucht nach:",
+      "MeinErstesProjekt"},
+     0,
+     {"## Von Klavermol erzeugte CMakeLists-Projektdatei\n## Datei erzeugt am : ",
+      "\n# Mindestversion von CMake festlegen.\ncmake_minimum_required(VERSION 2.8.10)\n",
+      "\n## Dieses Projekt braucht wahrscheinlich noch Feinarbeit"}},
+    {"Dutch", wxLANGUAGE_DUTCH, "nl_NL.UTF-8", {}, true,
+     {"Algemeen", "Navigatie", "Opties", "Bronbestanden", "Bibliotheken", "Includebestanden", "Afsluiten\tCtrl+Q",
+      "Voorkeuren\tCtrl+,", "&Opslaan", "&Wissen", "&Afsluiten", "Het huidige filter zoekt naar:",
+      "MijnEersteProject"},
+     1,
+     {"## Door Klavermol gemaakt CMakeLists-add_library-bestand\n## Bestand gemaakt op : ",
+      "\n# minimale CMake-versie vastleggen.\ncmake_minimum_required(VERSION 2.8.10)\n",
+      "# Het absolute pad van dit CMakeLists.txt-bestand is : \"HOME\"\n"}},
+};
+
+void PrintTo(const StartRegel& r, std::ostream* os)
+{
+    *os << r.naam;
+}
+
+// The languages as the dialog lists them: name and flag.
+using Getoond = std::vector<std::pair<wxString, int>>;
+Getoond getoond(const wxListCtrl* lijst)
+{
+    Getoond uit;
+    for (int i = 0; i < lijst->GetItemCount(); ++i) {
+        wxListItem item;
+        item.SetId(i);
+        item.SetMask(wxLIST_MASK_TEXT | wxLIST_MASK_IMAGE);
+        lijst->GetItem(item);
+        uit.emplace_back(item.GetText(), item.GetImage());
+    }
+    return uit;
+}
+
+} // namespace
+
 class Taal : public ProgrammaTest
 {
 protected:
-    // Whether the machine has the locale; the toolkit cannot switch to
-    // a language without it.
-    static bool heeftLocale(const char* locale)
-    {
-        const bool er = std::setlocale(LC_ALL, locale) != nullptr;
-        std::setlocale(LC_ALL, "C");
-        return er;
-    }
-
-    // Starts the program in the given language, or skips without its locale.
-    void startIn(int taal, const char* locale)
-    {
-        if (!heeftLocale(locale))
-            GTEST_SKIP() << locale << " is not generated on this machine";
-        zetTaal(taal);
-        start();
-    }
-
-    void verwachtGeenFouten() const
-    {
-        for (const LogRegel& r : logRegels(wxLOG_Error))
-            ADD_FAILURE() << "error logged: " << r.tekst.utf8_string();
-    }
-
     wxString menuTitel(size_t i) const { return venster().GetMenuBar()->GetMenuLabelText(i); }
 
-    // Both catalogues were found for the language, as the toolkit names it.
-    void verwachtCatalogi(const wxString& taal) const
-    {
-        EXPECT_TRUE(heeftLog(wxLOG_Debug, "Zelvano katalogus voor taal : " + taal + " met succes toegevoegd."));
-        EXPECT_TRUE(heeftLog(wxLOG_Debug, "Applikatie (Klavermol) katalogus voor taal : " + taal +
-                                              " met succes toegevoegd."));
-        verwachtGeenFouten();
-    }
-
-    // As shown: the menus, the pages, the Quit and Preferences menu items
-    // (the accelerator after the tab is the toolkit's), the Save, Clear and
-    // Quit buttons, the filter text and the project name.
+    // The menus, the pages, Quit and Preferences (the accelerator after the
+    // tab is the toolkit's), the Save, Clear and Quit buttons, the filter
+    // text and the project name.
     std::vector<wxString> teksten() const
     {
-        KlavermolVenster& v = venster();
-        std::vector<wxString> uit;
-        for (size_t i = 0; i < 3; ++i)
-            uit.push_back(menuTitel(i));
-        for (size_t i = 0; i < 3; ++i)
-            uit.push_back(v.selektieBoek->GetPageText(i));
-        for (int id : {wxID_EXIT, wxID_PREFERENCES})
-            uit.push_back(v.GetMenuBar()->FindItem(id)->GetItemLabel());
-        for (int id : {wxID_SAVE, wxID_CLEAR, wxID_EXIT})
-            uit.push_back(v.FindWindow(id)->GetLabel());
-        uit.push_back(v.GetStatusBar()->GetStatusText(1));
-        uit.push_back(v.projektLibIncludeNaam->GetValue());
-        return uit;
+        const KlavermolVenster& v = venster();
+        const wxMenuBar* m = v.GetMenuBar();
+        const wxBookCtrlBase* b = v.selektieBoek;
+        return {m->GetMenuLabelText(0), m->GetMenuLabelText(1), m->GetMenuLabelText(2), b->GetPageText(0),
+                b->GetPageText(1), b->GetPageText(2), m->FindItem(wxID_EXIT)->GetItemLabel(),
+                m->FindItem(wxID_PREFERENCES)->GetItemLabel(), v.FindWindow(wxID_SAVE)->GetLabel(),
+                v.FindWindow(wxID_CLEAR)->GetLabel(), v.FindWindow(wxID_EXIT)->GetLabel(),
+                v.GetStatusBar()->GetStatusText(1), v.projektLibIncludeNaam->GetValue()};
     }
 
-    // Execute for the given output kind and name; returns the text it wrote.
-    wxString voerUit(int soort, const wxString& naam)
+    // Execute for the given output kind with one source file; the text it wrote.
+    wxString voerUit(int soort)
     {
         KlavermolVenster& v = venster();
         v.outputDirPicker->SetPath(thuis);
-        v.projektLibIncludeNaam->SetValue(naam);
+        v.projektLibIncludeNaam->SetValue("Demo");
         v.uitvoerSoortKeuze->SetSelection(soort);
         opdracht(wxEVT_CHOICE, UitvoerSoortKeuzeID, soort);
         std::size_t overgeslagen = 0;
@@ -87,47 +124,60 @@ protected:
     }
 };
 
-TEST_F(Taal, EnglishAddsThePrefixesButNoCatalogue)
+class TaalStart : public Taal, public ::testing::WithParamInterface<StartRegel>
 {
-    zetTaal(wxLANGUAGE_ENGLISH);
-    start();
-    EXPECT_TRUE(heeftLog(wxLOG_Debug, "(DesktopAppBasis::zetLokaliteit) Gekozen taal : English kort :en"));
-    EXPECT_TRUE(heeftLog(wxLOG_Debug, "Taalpad (BSD/Solaris/AIX/Linux) toegevoegd."));
+};
 
-    // the resources directory as the toolkit reports it while the
-    // application object is being built: <prefix>/share/<program name>
+// The locale, the catalogue search paths and catalogues, the errors, what
+// the window shows and the comment lines Execute writes, per language.
+TEST_P(TaalStart, LocaleCataloguesAndTexts)
+{
+    const StartRegel& r = GetParam();
+    const bool locale = *r.locale != '\0';
+    if (locale != heeftLocale(locale ? r.locale : "sv_SE.UTF-8"))
+        GTEST_SKIP() << "the machine has not the locales this row needs";
+    zetTaal(r.taal);
+    start();
+    EXPECT_TRUE(venster().IsShown());
+    EXPECT_EQ(app().geefTaal(), r.taal);
+    std::vector<wxString> fouten;
+    for (const LogRegel& l : logRegels(wxLOG_Error))
+        fouten.push_back(l.tekst);
+    EXPECT_EQ(fouten, r.fouten);
+
+    // the traces in order; the resources directory as the toolkit reports
+    // it while the application object is being built: <prefix>/share/<program name>
+    const wxString naam = wxLocale::GetLanguageName(r.taal);
+    std::vector<wxString> gelogd, verwacht = {"(DesktopAppBasis::zetLokaliteit) Gekozen taal : " + naam +
+                                              " kort :" + wxLocale::GetLanguageCanonicalName(r.taal)};
     const wxString e = wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath();
-    const wxString r = wxFileName(e).GetPath() + "/share/klavermol-gui-tests";
-    std::vector<wxString> paden;
-    for (const wxString& pad : {r, r + "/Zelvano/Klavermol/locale", r + "/../Zelvano/Klavermol/locale",
-                                r + "/locale", e + "/../share/Zelvano/Klavermol/locale"})
-        paden.push_back("Taalpad toegevoegd : " + pad);
-    EXPECT_EQ(logMet(wxLOG_Debug, "Taalpad toegevoegd : "), paden);
-    EXPECT_TRUE(logMet(wxLOG_Debug, "Zelvano katalogus").empty());
-    EXPECT_TRUE(logMet(wxLOG_Debug, "Applikatie (").empty());
-    verwachtGeenFouten();
+    const wxString b = wxFileName(e).GetPath() + "/share/klavermol-gui-tests";
+    if (locale)
+        verwacht.push_back("Taalpad (BSD/Solaris/AIX/Linux) toegevoegd.");
+    for (const wxString& pad : {b, b + "/Zelvano/Klavermol/locale", b + "/../Zelvano/Klavermol/locale",
+                                b + "/locale", e + "/../share/Zelvano/Klavermol/locale"})
+        if (locale)
+            verwacht.push_back("Taalpad toegevoegd : " + pad);
+    for (const char* k : {"Zelvano", "Applikatie (Klavermol)"})
+        if (r.katalogi)
+            verwacht.push_back(k + (" katalogus voor taal : " + naam) + " met succes toegevoegd.");
+    for (const LogRegel& l : logRegels(wxLOG_Debug))
+        if (l.tekst.StartsWith("(DesktopAppBasis::zetLokaliteit)") || l.tekst.StartsWith("Taalpad") ||
+            l.tekst.Contains(" katalogus voor taal : "))
+            gelogd.push_back(l.tekst);
+    EXPECT_EQ(gelogd, verwacht);
+
+    if (!r.teksten.empty())
+        EXPECT_EQ(teksten(), r.teksten);
+    const wxString tekst = r.soort < 0 ? wxString() : voerUit(r.soort);
+    for (wxString stuk : r.stukken) {
+        stuk.Replace("HOME", thuis);
+        EXPECT_NE(tekst.Find(stuk), wxNOT_FOUND) << stuk;
+    }
 }
 
-TEST_F(Taal, AMissingCatalogueIsLoggedAndTheProgramGoesOn)
-{
-    startIn(wxLANGUAGE_FRENCH, "fr_FR.UTF-8"); // a generated locale without catalogues of ours
-    const auto fouten = logRegels(wxLOG_Error);
-    ASSERT_EQ(fouten.size(), 1u);
-    EXPECT_EQ(fouten[0].tekst, "Could not add Zelvano catalog for language : French");
-    EXPECT_TRUE(venster().IsShown());
-    EXPECT_EQ(app().geefTaal(), wxLANGUAGE_FRENCH);
-}
-
-TEST_F(Taal, ALocaleThatCannotBeSetIsLoggedAndTheProgramGoesOn)
-{
-    if (heeftLocale("sv_SE.UTF-8"))
-        GTEST_SKIP() << "sv_SE.UTF-8 is generated on this machine";
-    zetTaal(wxLANGUAGE_SWEDISH);
-    start();
-    EXPECT_TRUE(heeftLog(wxLOG_Error, "Could not initialise the Locale for \"Swedish\" ."));
-    EXPECT_TRUE(heeftLog(wxLOG_Error, "Could not initialise the Internationalization Locale system forKlavermol."));
-    EXPECT_TRUE(venster().IsShown());
-}
+INSTANTIATE_TEST_SUITE_P(, TaalStart, ::testing::ValuesIn(starts),
+                         [](const ::testing::TestParamInfo<StartRegel>& i) { return std::string(i.param.naam); });
 
 TEST(CatalogusNamen, ApplikatieCountsFromTheThirdPosition)
 {
@@ -135,51 +185,6 @@ TEST(CatalogusNamen, ApplikatieCountsFromTheThirdPosition)
         EXPECT_EQ(DesktopAppBasis::geefCatalogusNamen(naam), wxArrayString(1, naam));
     const wxString twee[] = {"XYApplikatie", "XY"};
     EXPECT_EQ(DesktopAppBasis::geefCatalogusNamen("XYApplikatie"), wxArrayString(2, twee));
-}
-
-// Offered in the caller's order, each with its flag; OK waits for a pick
-// and stays on once one was made.
-TEST_F(Taal, TheDialogOffersTheLanguagesInOrderWithFlags)
-{
-    start();
-    const struct
-    {
-        int taal;
-        const char* naam; // none, and no flag, for a language without one
-        int vlag;
-    } regels[] = {{wxLANGUAGE_GERMAN, "German", 1}, {wxLANGUAGE_ENGLISH, "English", 2},
-                  {wxLANGUAGE_DUTCH, "Dutch", 0}, {wxLANGUAGE_FINNISH, "", 14}};
-    wxArrayInt talen;
-    for (const auto& r : regels)
-        talen.Add(r.taal);
-    TaalKeuzeDialoog dialoog(&venster(), talen, 10000, "Language Selection ");
-    wxListCtrl* lijst = dialoog.geefLijst();
-    ASSERT_EQ(lijst->GetItemCount(), 4);
-    for (int i = 0; i < 4; ++i) {
-        wxListItem item;
-        item.SetId(i);
-        item.SetMask(wxLIST_MASK_TEXT | wxLIST_MASK_IMAGE);
-        ASSERT_TRUE(lijst->GetItem(item));
-        EXPECT_EQ(item.GetText(), regels[i].naam);
-        EXPECT_EQ(item.GetImage(), regels[i].vlag);
-    }
-    // every flag lies centred on its square: see-through above, solid in the middle
-    ASSERT_EQ(dialoog.geefVlaggen()->GetImageCount(), 14);
-    for (int i = 0; i < 14; ++i) {
-        const wxImage vlag = dialoog.geefVlaggen()->GetBitmap(i).ConvertToImage();
-        EXPECT_EQ(vlag.GetSize(), wxSize(24, 24)) << i;
-        EXPECT_TRUE(vlag.IsTransparent(12, 1) && !vlag.IsTransparent(12, 12)) << i;
-    }
-    wxWindow* ok = dialoog.FindWindow(wxID_OK);
-    dialoog.UpdateWindowUI(wxUPDATE_UI_RECURSE);
-    EXPECT_EQ(dialoog.geefTaal(), wxLANGUAGE_UNKNOWN);
-    EXPECT_FALSE(ok->IsEnabled());
-    for (long stand : {long(wxLIST_STATE_SELECTED), 0L}) { // deselecting changes nothing
-        lijst->SetItemState(2, stand, wxLIST_STATE_SELECTED);
-        dialoog.UpdateWindowUI(wxUPDATE_UI_RECURSE);
-        EXPECT_EQ(dialoog.geefTaal(), wxLANGUAGE_DUTCH);
-        EXPECT_TRUE(ok->IsEnabled());
-    }
 }
 
 TEST_F(Taal, TheAboutMenuShowsDescriptionVersionAndCreditsInOrder)
@@ -196,6 +201,9 @@ TEST_F(Taal, TheAboutMenuShowsDescriptionVersionAndCreditsInOrder)
     EXPECT_EQ(ouder, &venster());
     EXPECT_EQ(getoond.GetName(), "Klavermol");
     EXPECT_EQ(getoond.GetVersion(), "07.09.2020_2.0.0.a");
+    EXPECT_EQ(getoond.GetCopyright() + " " + getoond.GetWebSiteURL(),
+              "(c) 2016-2020 Zelvano. All rights reserved. https://www.zelvano.nl");
+    EXPECT_TRUE(getoond.GetIcon().IsOk());
     const wxString platform = app().geefPlatformBeschrijving();
     EXPECT_EQ(platform, "wxGTK Linux(64 bit)");
     EXPECT_TRUE(getoond.GetDescription().StartsWith(platform + "\n\nKlavermol simplifies applying CMake"));
@@ -211,94 +219,49 @@ TEST_F(Taal, TheAboutMenuShowsDescriptionVersionAndCreditsInOrder)
     EXPECT_EQ(ontwikkelaars[5], "https://www.zelvano.nl/klavermol");
 }
 
-TEST_F(Taal, GermanInterfaceAndCommentLinesAroundUntouchedDirectives)
-{
-    startIn(wxLANGUAGE_GERMAN, "de_DE.UTF-8");
-    verwachtCatalogi("German");
-    EXPECT_EQ(teksten(), (std::vector<wxString>{"Allgemein", "Navigation", "Optionen", "Quelldateien", "Bibliotheken",
-                                                "Include-Dateien", "Beenden\tCtrl+Q", "Einstellungen\tCtrl+,",
-                                                "&Speichern", "&Leeren", "&Beenden", "Der aktuelle Filter sucht nach:",
-                                                "MeinErstesProjekt"}));
-
-    const wxString projekt = voerUit(0, "Demo");
-    EXPECT_TRUE(projekt.StartsWith("## Von Klavermol erzeugte CMakeLists-Projektdatei\n## Datei erzeugt am : "));
-    for (const char* stuk : {"\n# Mindestversion von CMake festlegen.\ncmake_minimum_required(VERSION 2.8.10)\n",
-                             "set(ProjectName Demo)\n", "target_link_libraries(${ProjectName} )",
-                             "\n## Dieses Projekt braucht wahrscheinlich noch Feinarbeit"})
-        EXPECT_NE(projekt.Find(stuk), wxNOT_FOUND) << stuk;
-    EXPECT_EQ(projekt.Find("## This project"), wxNOT_FOUND);
-    EXPECT_TRUE(voerUit(2, "Demo").StartsWith("## Von Klavermol erzeugt: Demo (Include-Datei)\n"));
-}
-
-TEST_F(Taal, DutchInterfaceAndCommentLines)
-{
-    startIn(wxLANGUAGE_DUTCH, "nl_NL.UTF-8");
-    verwachtCatalogi("Dutch");
-    EXPECT_EQ(teksten(), (std::vector<wxString>{"Algemeen", "Navigatie", "Opties", "Bronbestanden", "Bibliotheken",
-                                                "Includebestanden", "Afsluiten\tCtrl+Q", "Voorkeuren\tCtrl+,",
-                                                "&Opslaan", "&Wissen", "&Afsluiten", "Het huidige filter zoekt naar:",
-                                                "MijnEersteProject"}));
-
-    const wxString bieb = voerUit(1, "Demo");
-    EXPECT_TRUE(bieb.StartsWith("## Door Klavermol gemaakt CMakeLists-add_library-bestand\n## Bestand gemaakt op : "));
-    EXPECT_NE(bieb.Find("\n# minimale CMake-versie vastleggen.\ncmake_minimum_required(VERSION 2.8.10)\n"),
-              wxNOT_FOUND);
-    EXPECT_NE(bieb.Find("# Het absolute pad van dit CMakeLists.txt-bestand is : \"" + thuis + "\"\n"), wxNOT_FOUND);
-}
-
-// The texts are American English, so the toolkit takes en_US without any
-// catalogue; another English variant needs the English catalogues, or the
-// start logs that the catalogues could not be added.
-TEST_F(Taal, BritishEnglishFindsTheEnglishCatalogues)
-{
-    if (!heeftLocale("en_GB.UTF-8")) {
-        // Not generated on this machine: made for this process alone.
-        const wxString map = maakMap("locale");
-        const std::string maak = "localedef -i en_GB -f UTF-8 '" + map.ToStdString() + "/en_GB.UTF-8' >/dev/null 2>&1";
-        if (std::system(maak.c_str()) != 0)
-            GTEST_SKIP() << "en_GB.UTF-8 is not generated and localedef cannot make it";
-        setenv("LOCPATH", map.ToStdString().c_str(), 1);
-        setenv("LC_ALL", "en_GB.UTF-8", 1);
-        setenv("LANG", "en_GB.UTF-8", 1);
-    }
-    startIn(wxLANGUAGE_ENGLISH_UK, "en_GB.UTF-8");
-    EXPECT_EQ(menuTitel(0), "General");
-    verwachtCatalogi(wxLocale::GetLanguageName(wxLANGUAGE_ENGLISH_UK));
-}
-
-// The language menu offers three languages; picking German and confirming
-// restarts the program, and the next start is in German.
+// The language menu offers German, English and Dutch with their flags; OK
+// waits for a pick. German, OK and Yes restart the program, and the next
+// start, a process of its own in the same home, is in German.
 TEST_F(Taal, TheChosenLanguageIsInForceAfterTheRestart)
 {
     if (!heeftLocale("de_DE.UTF-8"))
         GTEST_SKIP() << "de_DE.UTF-8 is not generated on this machine";
+    if (isVervolg()) {
+        zetTaal(-1); // the language comes from the store the first run left
+        start();
+        EXPECT_EQ(app().geefTaal(), wxLANGUAGE_GERMAN);
+        EXPECT_TRUE(app().isTaalGekozen());
+        EXPECT_EQ(menuTitel(0), "Allgemein");
+        EXPECT_TRUE(logRegels(wxLOG_Error).empty());
+        return;
+    }
     start();
-    EXPECT_EQ(menuTitel(0), "General");
+    {
+        // a language the dialog has no row for: no name, no flag
+        TaalKeuzeDialoog fins(&venster(), wxArrayInt(1, wxLANGUAGE_FINNISH), 1, "");
+        EXPECT_EQ(getoond(fins.geefLijst()), (Getoond{{"", 14}}));
+        // every flag lies centred on its square: see-through above, solid in the middle
+        ASSERT_EQ(fins.geefVlaggen()->GetImageCount(), 14);
+        for (int i = 0; i < 14; ++i) {
+            const wxImage vlag = fins.geefVlaggen()->GetBitmap(i).ConvertToImage();
+            EXPECT_EQ(vlag.GetSize(), wxSize(24, 24)) << i;
+            EXPECT_TRUE(vlag.IsTransparent(12, 1) && !vlag.IsTransparent(12, 12)) << i;
+        }
+    }
     const Antwoord<TaalKeuzeDialoog> kies([](TaalKeuzeDialoog& dlg) {
         EXPECT_EQ(dlg.GetTitle(), "Language Selection ");
-        EXPECT_EQ(dlg.geefLijst()->GetItemCount(), 3);
-        dlg.geefLijst()->SetItemState(0, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
-        return wxID_OK;
+        wxListCtrl* lijst = dlg.geefLijst();
+        EXPECT_EQ(getoond(lijst), (Getoond{{"German", 1}, {"English", 2}, {"Dutch", 0}}));
+        EXPECT_EQ(bedien(dlg, wxID_OK, [] {}), wxID_NONE);
+        return bedien(dlg, wxID_OK, [&] {
+            lijst->SetItemState(0, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+            lijst->SetItemState(0, 0, wxLIST_STATE_SELECTED); // deselecting keeps the pick
+            EXPECT_EQ(dlg.geefTaal(), wxLANGUAGE_GERMAN);
+        });
     });
     wxTEST_DIALOG(opdracht(wxEVT_MENU, ZetTaalID), kies, wxExpectModal<wxMessageDialog>(wxYES));
     stop();
     EXPECT_EQ(leesInstellingen()->ReadLong("/Gebruikersinstellingen/Encoding", -1), wxLANGUAGE_GERMAN);
-
-    // The next start, in a process of its own in the same home.
-    EXPECT_EQ(startOpnieuw("Taal.NaDeHerstart"), 0);
-    EXPECT_TRUE(wxFileName::FileExists(thuis + "/na-de-herstart")) << "the second start did not run";
-}
-
-// The second start of the test above; skipped when run on its own.
-TEST_F(Taal, NaDeHerstart)
-{
-    if (!isVervolg())
-        GTEST_SKIP() << "runs as the restart of TheChosenLanguageIsInForceAfterTheRestart";
-    zetTaal(-1); // the language comes from the store the first run left
-    start();
-    EXPECT_EQ(app().geefTaal(), wxLANGUAGE_GERMAN);
-    EXPECT_TRUE(app().isTaalGekozen());
-    EXPECT_EQ(menuTitel(0), "Allgemein");
-    verwachtGeenFouten();
-    maakBestand("na-de-herstart");
+    const auto* deze = ::testing::UnitTest::GetInstance()->current_test_info();
+    EXPECT_EQ(startOpnieuw(std::string(deze->test_suite_name()) + "." + deze->name()), 0);
 }

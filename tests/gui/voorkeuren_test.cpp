@@ -1,16 +1,15 @@
-// The preferences dialog: its pages and texts, and how OK and Cancel hand
-// the nine templates back to the main window and on to the settings file.
+// The preferences dialog: its pages and labels, and how OK and Cancel hand
+// the nine templates back to the main window, to the generated text and on
+// to the settings file.
+#include "gebruiker.h"
 #include "programma.h"
 
 #include "dialogs/preferences.h"
 
 #include <wx/bookctrl.h>
+#include <wx/filepicker.h>
 #include <wx/statbox.h>
-#include <wx/testing.h>
 #include <wx/textctrl.h>
-
-#include <cstring>
-#include <functional>
 
 namespace {
 
@@ -19,11 +18,10 @@ struct VeldRegel
     Preferences::Veld lid;
     const char* sleutel; // under "/Configuratie"
     int pagina;
-    const char* label;   // of its box, or of its grid row
-    bool bewaard;        // written at exit
+    const char* label; // of its box, or of its grid row
+    bool bewaard;      // written at exit
 };
 
-// The nine texts in the order they appear, page by page.
 const VeldRegel velden[] = {
     {&kern::Sjablonen::kopieerrechtMededeling, "KopieerrechtMededeling", 0, "Copyright notice", true},
     {&kern::Sjablonen::projektKommando, "ProjektKommando", 1, "Projekt generation command ", true},
@@ -36,44 +34,11 @@ const VeldRegel velden[] = {
     {&kern::Sjablonen::includeKommando, "IncludeKommando", 3, "Include generation command ", true},
 };
 
-wxString sleutelPad(const VeldRegel& v)
-{
-    return wxString("/Configuratie/") + v.sleutel;
-}
-
-// Plays the user: showing the dialog runs the validators into the texts,
-// then `handeling` works the controls and the answer ends it. OK runs the
-// transfer back, as the OK button does.
-Antwoord<Preferences> gebruiker(int antwoord, std::function<void(Preferences&)> handeling)
-{
-    return Antwoord<Preferences>([=](Preferences& dlg) {
-        dlg.InitDialog();
-        handeling(dlg);
-        if (antwoord == wxID_OK) {
-            EXPECT_TRUE(dlg.Validate());
-            EXPECT_TRUE(dlg.TransferDataFromWindow());
-        }
-        return antwoord;
-    });
-}
-
-// The text controls below a window, in creation order.
-void verzamelTeksten(wxWindow* w, std::vector<wxTextCtrl*>& uit)
-{
-    for (wxWindow* kind : w->GetChildren()) {
-        if (auto* tekst = dynamic_cast<wxTextCtrl*>(kind))
-            uit.push_back(tekst);
-        verzamelTeksten(kind, uit);
-    }
-}
-
-// The box label above a text, or the grid label beside it.
+// The label of its box, or of its grid row.
 wxString labelVan(wxTextCtrl* tekst)
 {
-    if (auto* kader = dynamic_cast<wxStaticBox*>(tekst->GetParent()))
-        return kader->GetLabel();
-    wxWindow* ervoor = tekst->GetPrevSibling();
-    return ervoor != nullptr && ervoor->GetId() == wxID_STATIC ? ervoor->GetLabel() : wxString("?");
+    auto* kader = dynamic_cast<wxStaticBox*>(tekst->GetParent());
+    return kader ? kader->GetLabel() : tekst->GetPrevSibling()->GetLabel();
 }
 
 } // namespace
@@ -81,9 +46,16 @@ wxString labelVan(wxTextCtrl* tekst)
 class Voorkeuren : public ProgrammaTest
 {
 protected:
-    void open(const Antwoord<Preferences>& gebruiker) { wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_PREFERENCES), gebruiker); }
+    // Opens the dialog from its menu item; `handeling` works the shown
+    // dialog, then the user clicks `knop`.
+    void open(int knop, const std::function<void(Preferences&)>& handeling)
+    {
+        wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_PREFERENCES), Antwoord<Preferences>([&](Preferences& dlg) {
+                          return bedien(dlg, knop, [&] { handeling(dlg); });
+                      }));
+    }
 
-    // Every text shows, and the window holds, what `waarde` gives for it.
+    // The window holds, and the dialog (if given) shows, `waarde` for every field.
     void verwachtOveral(Preferences* dlg, const std::function<wxString(const VeldRegel&)>& waarde)
     {
         for (const VeldRegel& v : velden) {
@@ -94,68 +66,58 @@ protected:
     }
 };
 
-// The stored templates are shown as stored (the store expands no variables),
-// each on its page under its label; Cancel
-// hands nothing back, even with the dialog's own copies changed, and the
-// exit writes the seven saved ones as they were.
-TEST_F(Voorkeuren, TheStoredTemplatesAsShownAndCancel)
+// Every other text is stored: shown as stored (nothing expanded), the others
+// as the defaults, each on its page under its label. Help does nothing and
+// Cancel after editing hands nothing back; OK takes every text as it is,
+// emptied ones too, for Execute and the next opening. The exit writes all
+// but the shared and object library commands.
+TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
 {
-    const auto opgeslagen = [](const VeldRegel& v) { return wxString("## stored $HOME ") + v.sleutel; };
+    const auto opgeslagen = [](const VeldRegel& v) { return (&v - velden) % 2 == 0; };
+    const auto eerst = [&](const VeldRegel& v) {
+        return opgeslagen(v) ? wxString("## stored $HOME ") + v.sleutel : kern::geefStandaardSjablonen().*v.lid;
+    };
+    const auto bevestigd = [](const VeldRegel& v) {
+        return v.pagina == 2 && v.bewaard ? wxString() : wxString("## confirmed ") + v.sleutel + "\n";
+    };
     std::string inhoud = "[Configuratie]\n";
     for (const VeldRegel& v : velden)
-        inhoud += std::string(v.sleutel) + "=" + opgeslagen(v).ToStdString() + "\n";
+        if (opgeslagen(v))
+            inhoud += std::string(v.sleutel) + "=" + eerst(v).ToStdString() + "\n";
     schrijfInstellingen(inhoud);
     start();
-    open(gebruiker(wxID_CANCEL, [&](Preferences& dlg) {
+    open(wxID_CANCEL, [&](Preferences& dlg) {
         EXPECT_EQ(dlg.GetTitle(), "Preferences");
         wxBookCtrlBase* boek = dlg.GetBookCtrl();
         const char* titels[] = {"General", "CMake Project cmd", "CMake Library cmd", "CMake Include cmd"};
         ASSERT_EQ(boek->GetPageCount(), 4u);
-        std::vector<std::vector<wxTextCtrl*>> perPagina(4), verwacht(4);
-        for (int i = 0; i < 4; ++i) {
+        for (int i = 0; i < 4; ++i)
             EXPECT_EQ(boek->GetPageText(i), titels[i]);
-            verzamelTeksten(boek->GetPage(i), perPagina[i]);
-        }
         for (const VeldRegel& v : velden) {
-            verwacht[v.pagina].push_back(dlg.geefTekst(v.lid));
-            EXPECT_EQ(labelVan(dlg.geefTekst(v.lid)), wxString(v.label)) << v.sleutel;
+            EXPECT_TRUE(boek->GetPage(v.pagina)->IsDescendant(dlg.geefTekst(v.lid))) << v.sleutel;
+            EXPECT_EQ(labelVan(dlg.geefTekst(v.lid)), v.label) << v.sleutel;
+            const bool naam = v.lid == &kern::Sjablonen::biebLibNaam || v.lid == &kern::Sjablonen::biebIncludeNaam;
+            EXPECT_EQ(dlg.geefTekst(v.lid)->IsMultiLine(), !naam) << v.sleutel; // the names take one line
+            dlg.geefTekst(v.lid)->SetValue("edited");
         }
-        EXPECT_EQ(perPagina, verwacht);
-        verwachtOveral(&dlg, opgeslagen);
-
+        EXPECT_EQ(bedien(dlg, wxID_HELP, [] {}), wxID_NONE);
+    });
+    open(wxID_OK, [&](Preferences& dlg) {
+        verwachtOveral(&dlg, eerst);
         for (const VeldRegel& v : velden)
-            dlg.geefTekst(v.lid)->SetValue(wxString("edited ") + v.sleutel);
-        wxCommandEvent hulp(wxEVT_BUTTON, wxID_HELP);
-        dlg.FindWindow(wxID_HELP)->ProcessWindowEvent(hulp);
-        dlg.TransferDataFromWindow();
-    }));
-    verwachtOveral(nullptr, opgeslagen);
+            dlg.geefTekst(v.lid)->SetValue(bevestigd(v));
+    });
+    verwachtOveral(nullptr, bevestigd);
+    venster().outputDirPicker->SetPath(thuis);
+    klik(wxID_APPLY);
+    const wxString tekst = venster().uitvoerTekst->GetValue();
+    for (const char* stuk : {"## confirmed KopieerrechtMededeling\n", "\n## confirmed ProjektKommando\n"})
+        EXPECT_NE(tekst.Find(stuk), wxNOT_FOUND) << stuk;
+    open(wxID_CANCEL, [&](Preferences& dlg) { verwachtOveral(&dlg, bevestigd); });
     stop();
     auto config = leesInstellingen();
     for (const VeldRegel& v : velden)
-        EXPECT_EQ(config->Read(sleutelPad(v), "missing"), opgeslagen(v)) << v.sleutel;
-}
-
-// OK takes every text as it is, emptied ones too; opening again shows them.
-// The library commands of a shared or object library hold for this run only:
-// the exit writes the seven others.
-TEST_F(Voorkeuren, OkTakesTheTextsAndTheExitWritesTheSevenSavedOnes)
-{
-    start();
-    const auto bevestigd = [](const VeldRegel& v) {
-        return std::strlen(v.sleutel) % 2 == 0 ? wxString() : wxString("## confirmed\n\t") + v.sleutel;
-    };
-    open(gebruiker(wxID_OK, [&](Preferences& dlg) {
-        verwachtOveral(&dlg, [](const VeldRegel& v) { return kern::geefStandaardSjablonen().*v.lid; });
-        for (const VeldRegel& v : velden)
-            dlg.geefTekst(v.lid)->SetValue(bevestigd(v));
-    }));
-    open(gebruiker(wxID_CANCEL, [&](Preferences& dlg) { verwachtOveral(&dlg, bevestigd); }));
-    stop();
-    auto config = leesInstellingen();
-    for (const VeldRegel& v : velden) {
-        EXPECT_EQ(config->HasEntry(sleutelPad(v)), v.bewaard) << v.sleutel;
-        if (v.bewaard)
-            EXPECT_EQ(config->Read(sleutelPad(v), "missing"), bevestigd(v)) << v.sleutel;
-    }
+        EXPECT_EQ(config->Read(wxString("/Configuratie/") + v.sleutel, "missing"),
+                  v.bewaard ? bevestigd(v) : opgeslagen(v) ? eerst(v) : wxString("missing"))
+            << v.sleutel;
 }

@@ -19,4 +19,7 @@ TEST(StandSchakelaar, ExclusiveOrFlipAndLock)
     s.zetVergrendeld(false);
     s = false;
     EXPECT_EQ(s.stand(), 0);
+    EXPECT_FALSE(s.boolean());
+    EXPECT_EQ(s.om(), 1);
+    EXPECT_EQ(s.om(), 0);
 }

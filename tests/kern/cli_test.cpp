@@ -137,7 +137,8 @@ TEST_F(Cli, PrintsWhatExecuteWouldShowForTheSameState)
     }
 }
 
-TEST_F(Cli, WriteReplacesAnOldFileWholeAndIncludeTakesTheNameDotCmake)
+// A failed write says why and leaves the old file as it was.
+TEST_F(Cli, WriteReplacesTheFileWholeOrOnAFullDiskNotAtAll)
 {
     maak("p/CMakeLists.txt", "oud\n");
     Uitslag u = voerUit("-w -o p --c p");
@@ -145,6 +146,12 @@ TEST_F(Cli, WriteReplacesAnOldFileWholeAndIncludeTakesTheNameDotCmake)
     EXPECT_EQ(lees("p/CMakeLists.txt"), verwacht({"p/main.c"}));
     u = voerUit("-w -k include -n Common -o p --h p/inc");
     EXPECT_EQ(lees("p/Common.cmake").rfind("## Klavermol generated Common include file\n", 0), 0u) << u.fout;
+    // the file-size limit makes the write fail as a full disk does
+    u = voerUit("-w -o p --c --h p", "sh -c 'trap \"\" XFSZ; ulimit -f 1; exec \"$0\" \"$@\"'");
+    EXPECT_EQ(u.code, 1);
+    EXPECT_EQ(u.fout, "klavermol-cli: Failed to open output file " + map.ToStdString() +
+                          "/p/CMakeLists.txt for writing to.\nFile too large\n");
+    EXPECT_EQ(lees("p/CMakeLists.txt"), verwacht({"p/main.c"}));
     wxArrayString namen; // main.c, .verborgen.c and the two new files
     EXPECT_EQ(wxDir::GetAllFiles(map + "/p", &namen, "*", wxDIR_FILES | wxDIR_HIDDEN), 4u);
 }
@@ -205,27 +212,13 @@ TEST_F(Cli, ErrorsGiveAMessageAndANonZeroExitAndNoFile)
     EXPECT_EQ(u.code + u.fout.size(), 0u) << u.fout;
     EXPECT_EQ(u.uit.rfind("klavermol-cli writes", 0), 0u) << u.uit;
     EXPECT_NE(u.uit.find("-o, --output-dir=<str>"), std::string::npos);
-}
-
-// A failed write says why and keeps the old file; an unreadable directory
-// is an error.
-TEST_F(Cli, AFullDiskKeepsTheOldFileAndAnUnreadableDirectoryIsAnError)
-{
-    maak("p/CMakeLists.txt", "oud");
-    Uitslag u = voerUit("-w -o p --c p", "sh -c 'trap \"\" XFSZ; ulimit -f 1; exec \"$0\" \"$@\"'");
-    EXPECT_EQ(u.code, 1);
-    EXPECT_EQ(u.fout, "klavermol-cli: Failed to open output file " + map.ToStdString() +
-                          "/p/CMakeLists.txt for writing to.\nFile too large\n");
-    EXPECT_EQ(lees("p/CMakeLists.txt"), "oud");
-    wxArrayString namen;
-    EXPECT_EQ(wxDir::GetAllFiles(map + "/p", &namen, "*CMakeLists.txt*", wxDIR_FILES | wxDIR_HIDDEN), 1u);
 
     wxRemoveFile(map + "/stderr.txt"); // the unprivileged user writes it anew
     ::mkdir((map + "/dicht").c_str(), 0);
     ::chmod(map.c_str(), 0777);
-    const std::string uitslag = alsNiemand([&] {
+    const std::string dicht = alsNiemand([&] {
         const Uitslag u = voerUit("-o p --c dicht");
         return std::to_string(u.code) + "|" + u.uit + "|" + u.fout;
     });
-    EXPECT_EQ(uitslag, "1||klavermol-cli: cannot read the directory dicht\n");
+    EXPECT_EQ(dicht, "1||klavermol-cli: cannot read the directory dicht\n");
 }

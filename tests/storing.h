@@ -41,9 +41,11 @@ private:
 // text). Anything the work touches must be reachable for that user.
 inline std::string alsNiemand(const std::function<std::string()>& werk)
 {
-    int buis[2];
-    if (::geteuid() != 0 || ::pipe(buis) != 0)
+    if (::geteuid() != 0)
         return werk();
+    int buis[2];
+    if (::pipe(buis) != 0)
+        return "pipe failed";
     const pid_t kind = ::fork();
     if (kind == 0) {
         const uid_t niemand = 65534;

@@ -7,8 +7,17 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
+
+// The bytes of a file; empty when it cannot be read.
+inline std::string leesBestand(const std::string& pad)
+{
+    std::ifstream in(pad, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
 
 // While it lives, a file may not grow past a few kilobytes: a write beyond
 // fails as it does on a full disk (the signal the kernel would send is

@@ -1,22 +1,16 @@
 // The settings file as the program meets it: damaged, of the wrong types,
 // read-only or impossible to write.
 #include "programma.h"
+#include "storing.h"
 
 #include <wx/filepicker.h>
 #include <wx/textctrl.h>
 
-#include <fstream>
-#include <iterator>
 #include <sys/stat.h>
 
 class Instellingen : public ProgrammaTest
 {
 protected:
-    std::string leesBestand(const wxString& pad) const
-    {
-        std::ifstream in(pad.ToStdString(), std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), {});
-    }
     // A language switch writes the store early, the end writes it again.
     void schrijfTweeKeer()
     {
@@ -47,7 +41,7 @@ TEST_F(Instellingen, ADamagedFileLoadsWhatItCanAndIsKept)
     EXPECT_EQ(waarschuwingen[0].tekst, "The settings file " + instellingenPad() + " could not be read completely; the "
                                        "settings that could not be read start from their defaults. The file was kept "
                                        "as " + instellingenPad() + ".bak.");
-    EXPECT_EQ(leesBestand(instellingenPad() + ".bak"), kapot);
+    EXPECT_EQ(leesBestand((instellingenPad() + ".bak").ToStdString()), kapot);
     stop();
     EXPECT_EQ(leesInstellingen()->ReadLong("/Gebruikersinstellingen/Encoding", 0), wxLocale::GetSystemLanguage());
 }
@@ -57,9 +51,9 @@ TEST_F(Instellingen, AReadOnlyFileIsLeftAloneAndThatIsSaidOnce)
     schrijfInstellingen("[Configuratie]\nProjektnaam=Vast\n");
     start();
     ::chmod(instellingenPad().fn_str(), 0444);
-    const std::string voor = leesBestand(instellingenPad());
+    const std::string voor = leesBestand(instellingenPad().ToStdString());
     schrijfTweeKeer();
-    EXPECT_EQ(leesBestand(instellingenPad()), voor);
+    EXPECT_EQ(leesBestand(instellingenPad().ToStdString()), voor);
     EXPECT_EQ(logMet(wxLOG_Warning, "The settings file " + instellingenPad() +
                                         " is read-only; your settings were not written to it.")
                   .size(),

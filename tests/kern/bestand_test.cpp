@@ -11,7 +11,6 @@
 #include <clocale>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <sys/stat.h>
 
 namespace {
@@ -33,11 +32,7 @@ protected:
         wxFileName::Rmdir(map, wxPATH_RMDIR_RECURSIVE);
     }
 
-    std::string lees(const wxString& pad = {}) const
-    {
-        std::ifstream in((pad.empty() ? doel : pad).ToStdString(), std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), {});
-    }
+    std::string lees() const { return leesBestand(doel.ToStdString()); }
     // The names in the directory: nothing may be left beside the target.
     wxArrayString inhoud() const
     {
@@ -93,7 +88,7 @@ TEST_F(Bestand, TheUsersFileKeepsItsPlaceLinksOwnerAndMode)
     struct stat st, link;
     ASSERT_EQ(::lstat((m + "/link").c_str(), &link) + ::stat(d.c_str(), &st), 0);
     EXPECT_TRUE(S_ISLNK(link.st_mode));
-    EXPECT_EQ(lees(map + "/tweede"), "via de link") << "hard link broken";
+    EXPECT_EQ(leesBestand(m + "/tweede"), "via de link") << "hard link broken";
     EXPECT_EQ(st.st_mode & 07777, 0646u);
     if (::geteuid() == 0)
         EXPECT_EQ(st.st_uid * 100000 + st.st_gid, 65534u * 100000 + 65534u);

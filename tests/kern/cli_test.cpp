@@ -10,7 +10,6 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <sys/stat.h>
 
 namespace {
@@ -41,11 +40,7 @@ protected:
         wxFileName::Mkdir(wxFileName(map + "/" + pad).GetPath(), wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
         std::ofstream((map + "/" + pad).ToStdString()) << inhoud;
     }
-    std::string lees(const std::string& pad) const
-    {
-        std::ifstream f((map + "/" + pad).ToStdString());
-        return std::string(std::istreambuf_iterator<char>(f), {});
-    }
+    std::string lees(const std::string& pad) const { return leesBestand((map + "/" + pad).ToStdString()); }
 
     Uitslag voerUit(const std::string& argumenten, const std::string& omgeving = "")
     {

@@ -94,6 +94,10 @@ TEST_F(Bestand, TheUsersFileKeepsItsPlaceLinksOwnerAndMode)
         EXPECT_EQ(st.st_uid * 100000 + st.st_gid, 65534u * 100000 + 65534u);
     EXPECT_FALSE(schrijfVol(doel)); // in place too, a failed write leaves the old text
     EXPECT_EQ(lees(), "via de link");
+    const std::string groot(5000, 'g'); // too big for the copy of the old text on a full disk
+    ASSERT_TRUE(kern::schrijfTekstBestand(doel, groot));
+    EXPECT_FALSE(schrijfVol(doel));
+    EXPECT_EQ(lees(), groot);
     EXPECT_EQ(inhoud().size(), 3u);
 
     // a writable file in a directory that is not writable

@@ -47,20 +47,24 @@ TEST_F(Start, FirstStartWithAnEmptyStore)
     EXPECT_EQ(aantalAsserts("(win != nullptr)"), 1);
     EXPECT_EQ(app().geefHoofdVenster(), &venster());
 
-    for (const wxSize grootte : {wxSize(100, 300), wxSize(300, 100), wxSize(101, 101)}) {
+    const wxFileConfig& opslag = app().geefAppConfigRef();
+    for (const auto& [grootte, opgeslagen] : {std::pair{wxSize(100, 300), "x"}, {wxSize(300, 100), "x"},
+                                               {wxSize(101, 101), "101x101"}}) {
         venster().SetClientSize(grootte);
         verwerk();
         ASSERT_EQ(venster().GetClientSize(), grootte);
         app().bewaarHoofdVensterGrootte();
+        EXPECT_EQ(opslag.Read("/Gebruikersinstellingen/Venster/GrootteX") + "x" +
+                      opslag.Read("/Gebruikersinstellingen/Venster/GrootteY"),
+                  opgeslagen)
+            << grootte.x << " x " << grootte.y;
     }
     stop();
     auto config = leesInstellingen();
     EXPECT_TRUE(heeftVorm(config->Read("/Statistiek/StartDatum"), "%Y-%m-%d"));
     EXPECT_TRUE(heeftVorm(config->Read("/Statistiek/StartTijd"), "%H:%M:%S"));
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Encoding", -1), wxLocale::GetSystemLanguage());
-    EXPECT_EQ(config->Read("/Gebruikersinstellingen/Venster/GrootteX") + "x" +
-                  config->Read("/Gebruikersinstellingen/Venster/GrootteY"),
-              "101x101");
+    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteX", 0), 101);
     EXPECT_FALSE(config->HasEntry("/Operationeel/EigenHerstart"));
 }
 

@@ -202,7 +202,7 @@ TEST_F(Bestand, ReadingTakesWhatItCanAndTellsWhetherTheFileWasDamaged)
         {"\xEF\xBB\xBF  [A]  \r\nx = 1\r\n#x=2\n;x=3\n", "/A/x", "1", 0},
         {"[A]\nx=\xc2\xa0\xdf\xbf\xe0\xa0\x80\xed\x9f\xbf\xef\xbf\xbd\xf0\x90\x80\x80\xf4\x8f\xbf\xbf\n", "/A/x",
          "\xc2\xa0\xdf\xbf\xe0\xa0\x80\xed\x9f\xbf\xef\xbf\xbd\xf0\x90\x80\x80\xf4\x8f\xbf\xbf", 0},
-        {"[A]\nx=\x80\n", "/A/x", nullptr, 1},
+        {"[A]\ny=\x80\nx=jos\xc3\xa9\n", "/A/x", "jos\xc3\xa9", 1}, // one bad byte spoils no other line
         {"[A]\nx=jos\xc3\xa9\ny=\xe9\n", "/A/x", "jos\xc3\xa9", 1},
         {"[A]\nx=\xc1\xbf\n", "/A/x", nullptr, 1},
         {"[A]\nx=\xe0\x9f\xbf\n", "/A/x", nullptr, 1},

@@ -6,8 +6,18 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
+
+// The bytes of a file; empty when it cannot be read.
+inline std::string leesBestand(const std::string& pad)
+{
+    std::ifstream in(pad, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
 
 // While it lives, a file may not grow past a few kilobytes: a write beyond
 // fails as it does on a full disk (the signal the kernel would send is
@@ -18,8 +28,7 @@ public:
     VolleSchijf() : oudeAfhandeling(std::signal(SIGXFSZ, SIG_IGN))
     {
         ::getrlimit(RLIMIT_FSIZE, &oud);
-        rlimit klein = oud;
-        klein.rlim_cur = 4096;
+        const rlimit klein{4096, oud.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &klein);
     }
     ~VolleSchijf()
@@ -37,29 +46,23 @@ private:
 
 // Permission faults cannot be staged for root, who reads and writes
 // everything: as root, `alsNiemand` runs the work in a child process under
-// the unprivileged user "nobody" and hands back what it returned. Anything
-// the work touches must be reachable for that user.
+// the unprivileged user "nobody" and hands back what it returned (a short
+// text). Anything the work touches must be reachable for that user.
 inline std::string alsNiemand(const std::function<std::string()>& werk)
 {
     if (::geteuid() != 0)
         return werk();
     int buis[2];
     if (::pipe(buis) != 0)
-        return "pipe";
+        return "pipe failed";
     const pid_t kind = ::fork();
     if (kind == 0) {
-        ::close(buis[0]);
         const uid_t niemand = 65534;
         if (::setgroups(0, nullptr) != 0 || ::setgid(niemand) != 0 || ::setuid(niemand) != 0)
             ::_exit(2);
+        ::setenv("TMPDIR", "/tmp", 1); // the caller's own temporary directory is closed to "nobody"
         const std::string uit = werk();
-        for (size_t n = 0; n < uit.size();) {
-            const ssize_t w = ::write(buis[1], uit.data() + n, uit.size() - n);
-            if (w <= 0)
-                ::_exit(3);
-            n += static_cast<size_t>(w);
-        }
-        ::_exit(0);
+        ::_exit(::write(buis[1], uit.data(), uit.size()) == static_cast<ssize_t>(uit.size()) ? 0 : 3);
     }
     ::close(buis[1]);
     std::string uit;
@@ -69,7 +72,5 @@ inline std::string alsNiemand(const std::function<std::string()>& werk)
     ::close(buis[0]);
     int status = 0;
     ::waitpid(kind, &status, 0);
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
-        return "child failed: " + std::to_string(status);
-    return uit;
+    return status == 0 ? uit : "child failed: " + std::to_string(status);
 }

@@ -1,28 +1,22 @@
-// The application frame: start, window size, what the end writes, the
-// restart after a language change, and a damaged or unwritable store.
+// The application frame: start, window size, what the end writes and the
+// restart after a language change.
 #include "programma.h"
 
-#include <wx/choice.h>
+#include <wx/datetime.h>
 #include <wx/display.h>
 #include <wx/sizer.h>
 #include <wx/testing.h>
-#include <wx/textctrl.h>
 
 #include <algorithm>
-#include <fstream>
 #include <functional>
-#include <iterator>
 
 namespace {
 
-bool isDatum(const wxString& s)
+bool heeftVorm(const wxString& s, const wxString& vorm)
 {
-    return s.length() == 10 && s.Matches("????-??-??");
-}
-
-bool isTijd(const wxString& s)
-{
-    return s.length() == 8 && s.Matches("??:??:??");
+    wxDateTime tijd;
+    wxString::const_iterator einde;
+    return tijd.ParseFormat(s, vorm, &einde) && einde == s.end();
 }
 
 } // namespace
@@ -64,6 +58,10 @@ TEST_F(Start, FirstStartWithAnEmptyStore)
     EXPECT_EQ(app().geefSplash()->GetTimeout(), 2000);
     EXPECT_EQ(app().geefSplashStatus()->GetStatusText(0), "Klavermol is starting!");
     EXPECT_EQ(app().geefHoofdVenster(), &venster());
+    EXPECT_EQ(wxTheApp->GetTopWindow(), &venster());
+    EXPECT_EQ(wxTheApp->GetAppName() + "|" + wxTheApp->GetAppDisplayName() + "|" + wxTheApp->GetVendorName() + "|" +
+                  wxTheApp->GetVendorDisplayName(),
+              "Klavermol|Klavermol|Zelvano|Zelvano");
     verwachtAssert("(win != nullptr)");
     app().zetHoofdVenster(nullptr, true, false);
     EXPECT_EQ(aantalAsserts("(win != nullptr)"), 1);
@@ -72,16 +70,16 @@ TEST_F(Start, FirstStartWithAnEmptyStore)
     const wxSize grootte = venster().GetClientSize();
     stop();
     auto config = leesInstellingen();
-    EXPECT_TRUE(isDatum(config->Read("/Statistiek/StartDatum")));
-    EXPECT_TRUE(isTijd(config->Read("/Statistiek/StartTijd")));
+    EXPECT_TRUE(heeftVorm(config->Read("/Statistiek/StartDatum"), "%Y-%m-%d"));
+    EXPECT_TRUE(heeftVorm(config->Read("/Statistiek/StartTijd"), "%H:%M:%S"));
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Encoding", -1), wxLocale::GetSystemLanguage());
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteX", 0), grootte.x);
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteY", 0), grootte.y);
     EXPECT_FALSE(config->HasEntry("/Operationeel/EigenHerstart"));
 }
 
-// The window's size, language, tooltips, data path and the statistics are
-// stored at the end.
+// The stored size is applied as far as the contents allow, and kept;
+// language, tooltips, data path and the statistics are written at the end.
 TEST_F(Start, ShutdownWritesLanguageTooltipsDataPathAndStatistics)
 {
     // "$HOME" stays as it is: the store never expands environment variables.
@@ -93,6 +91,7 @@ TEST_F(Start, ShutdownWritesLanguageTooltipsDataPathAndStatistics)
     EXPECT_FALSE(app().geefToonHulpToolTips());
     EXPECT_EQ(app().geefLaatsteDataPad(), "$HOME/data/${SRCS}");
     const wxSize grootte = venster().GetClientSize(); // 640 x 480 gave way to the contents
+    EXPECT_EQ(grootte, venster().GetSizer()->GetMinSize());
     stop();
     auto config = leesInstellingen();
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteX", 0), grootte.x);
@@ -100,39 +99,14 @@ TEST_F(Start, ShutdownWritesLanguageTooltipsDataPathAndStatistics)
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Encoding", -1), wxLANGUAGE_DUTCH);
     EXPECT_FALSE(config->ReadBool("/Gebruikersinstellingen/toonHulptoolTips", true));
     EXPECT_EQ(config->Read("/Operationeel/LaatsteDataPad"), "$HOME/data/${SRCS}");
-    EXPECT_TRUE(isDatum(config->Read("/Statistiek/StopDatum")));
-    EXPECT_TRUE(isTijd(config->Read("/Statistiek/StopTijd")));
+    EXPECT_TRUE(heeftVorm(config->Read("/Statistiek/StopDatum"), "%Y-%m-%d"));
+    EXPECT_TRUE(heeftVorm(config->Read("/Statistiek/StopTijd"), "%H:%M:%S"));
     EXPECT_EQ(config->ReadLong("/Statistiek/OS", 0), wxOS_UNIX_LINUX);
 }
 
-TEST_F(Start, ConfirmedLanguageSwitchRestartsInOrder)
-{
-    start();
-    std::vector<std::string> gezien;
-    DesktopAppBasis::geefProcesNaad().start = [&](const wxString& pad) {
-        // by now the store is on disk and the window is closing
-        auto config = leesInstellingen();
-        gezien.push_back(config->ReadBool("/Operationeel/EigenHerstart", false) ? "marker" : "no marker");
-        gezien.push_back(config->ReadLong("/Gebruikersinstellingen/Encoding", -1) == wxLANGUAGE_GERMAN
-                             ? "flushed"
-                             : "not flushed");
-        gezien.push_back(wxTheApp->IsScheduledForDestruction(&venster()) ? "closed" : "open");
-        gezien.push_back("start " + pad.ToStdString());
-        return 1L;
-    };
-    DesktopAppBasis::geefProcesNaad().stop = [&] { gezien.push_back("exit"); };
-
-    wxTEST_DIALOG(app().zetTaal(wxLANGUAGE_GERMAN), wxExpectModal<wxMessageDialog>(wxYES));
-
-    const std::string exe = wxStandardPaths::Get().GetExecutablePath().ToStdString();
-    EXPECT_EQ(gezien, (std::vector<std::string>{"marker", "flushed", "closed", "start " + exe, "exit"}));
-    EXPECT_EQ(app().geefTaal(), wxLANGUAGE_GERMAN);
-    auto config = leesInstellingen();
-    EXPECT_TRUE(config->ReadBool("/Operationeel/EersteKeer/TaalGekozen", false));
-    EXPECT_TRUE(config->ReadBool("/Operationeel/EigenHerstart", false));
-}
-
-TEST_F(Start, NoInTheRestartQuestionStoresNothing)
+// No leaves all as it was; Yes stores the choice and a marker, writes the
+// store, closes the window, starts the program anew and exits, in that order.
+TEST_F(Start, TheLanguageSwitchRestartsOnlyWhenConfirmed)
 {
     start();
     wxTEST_DIALOG(app().zetTaal(wxLANGUAGE_DUTCH),
@@ -143,56 +117,31 @@ TEST_F(Start, NoInTheRestartQuestionStoresNothing)
     EXPECT_TRUE(procesStappen.empty());
     EXPECT_EQ(app().geefTaal(), wxLANGUAGE_ENGLISH);
     EXPECT_FALSE(wxTheApp->IsScheduledForDestruction(&venster()));
-    stop();
-    auto config = leesInstellingen();
-    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Encoding", -1), wxLANGUAGE_ENGLISH);
-    EXPECT_FALSE(config->HasEntry("/Operationeel/EersteKeer/TaalGekozen"));
-    EXPECT_FALSE(config->HasEntry("/Operationeel/EigenHerstart"));
-}
 
-// A damaged file is kept beside the store, what can be read is used, and
-// the store is written again in a form it can read next time.
-TEST_F(Start, ACorruptStoreIsKeptAndWhatCanBeReadIsUsed)
-{
-    const std::string kapot = "[Gebruikersinstellingen]\nEncoding=57\n"
-                              "[Configuratie\nProjektnaam=Half\n"
-                              "[Configuratie]\nBestandNaamTekst=goed.txt\n"
-                              "\x01\x02 rommel zonder is-teken\n"
-                              "UitsluitTerm=";
-    schrijfInstellingen(kapot);
-    start();
-    EXPECT_EQ(venster().bestandNaamTekst->GetValue(), "goed.txt");
-    EXPECT_EQ(logMet(wxLOG_Warning, "The settings file " + instellingenPad()).size(), 1u);
-    std::ifstream bak((instellingenPad() + ".bak").ToStdString(), std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(bak), {}), kapot);
-    stop();
-    EXPECT_EQ(leesInstellingen()->Read("/Configuratie/BestandNaamTekst"), "goed.txt");
+    std::vector<std::string> gezien;
+    DesktopAppBasis::geefProcesNaad().start = [&](const wxString& pad) {
+        const auto config = leesInstellingen();
+        gezien.push_back(config->ReadBool("/Operationeel/EigenHerstart", false) ? "marker" : "no marker");
+        gezien.push_back(config->ReadBool("/Operationeel/EersteKeer/TaalGekozen", false) ? "chosen" : "not chosen");
+        gezien.push_back(config->ReadLong("/Gebruikersinstellingen/Encoding", -1) == wxLANGUAGE_GERMAN ? "German"
+                                                                                                     : "not German");
+        gezien.push_back(wxTheApp->IsScheduledForDestruction(&venster()) ? "closed" : "open");
+        gezien.push_back("start " + pad.ToStdString());
+        return 1L;
+    };
+    DesktopAppBasis::geefProcesNaad().stop = [&] { gezien.push_back("exit"); };
+    wxTEST_DIALOG(app().zetTaal(wxLANGUAGE_GERMAN), wxExpectModal<wxMessageDialog>(wxYES));
+    const std::string exe = wxStandardPaths::Get().GetExecutablePath().ToStdString();
+    EXPECT_EQ(gezien, (std::vector<std::string>{"marker", "chosen", "German", "closed", "start " + exe, "exit"}));
+    EXPECT_EQ(app().geefTaal(), wxLANGUAGE_GERMAN);
 }
 
 // A size no window can have gives the default size, which gives way to
 // what the contents need.
-TEST_F(Start, ValuesOfTheWrongTypeOrSizeTakeTheirDefaults)
+TEST_F(Start, AStoredSizeNoWindowCanHaveTakesTheDefault)
 {
-    schrijfInstellingen("[Gebruikersinstellingen]\nEncoding=Nederlands\n"
-                        "[Gebruikersinstellingen/Venster]\nGrootteX=-99999\nGrootteY=50\n"
-                        "[Configuratie]\nProjektsoort=bibliotheek\nVoegCBestandenToe=misschien\n");
-    zetTaal(-1);
+    schrijfInstellingen("[Gebruikersinstellingen/Venster]\nGrootteX=-99999\nGrootteY=50\n");
     start();
-    EXPECT_EQ(app().geefTaal(), wxLocale::GetSystemLanguage());
     const wxSize inhoud = venster().GetSizer()->GetMinSize();
     EXPECT_EQ(venster().GetClientSize(), wxSize(std::max(800, inhoud.x), std::max(600, inhoud.y)));
-    EXPECT_EQ(venster().uitvoerSoortKeuze->GetSelection(), 0);
-    EXPECT_FALSE(venster().voegCBestandenToe.boolean());
-}
-
-TEST_F(Start, AStoreThatCannotBeWrittenIsReportedOnce)
-{
-    // A directory where the file should be: it can be neither read nor replaced.
-    ASSERT_TRUE(wxFileName::Mkdir(instellingenPad()));
-    start();
-    // a language switch writes the store early, the exit writes it again
-    wxTEST_DIALOG(app().zetTaal(wxLANGUAGE_DUTCH), wxExpectModal<wxMessageDialog>(wxYES));
-    stop();
-    EXPECT_EQ(logMet(wxLOG_Error, "Your settings could not be written to " + instellingenPad()).size(), 1u);
-    EXPECT_TRUE(wxFileName::DirExists(instellingenPad()));
 }

@@ -1,4 +1,4 @@
-// Writing a generated file whole or not at all.
+// Files the user owns, written whole or not at all, and the settings file.
 #include "kern/bestand.h"
 #include "kern/instellingenbestand.h"
 
@@ -11,9 +11,7 @@
 #include <clocale>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
 namespace {
 
@@ -34,18 +32,18 @@ protected:
         wxFileName::Rmdir(map, wxPATH_RMDIR_RECURSIVE);
     }
 
-    std::string lees() const
-    {
-        std::ifstream in(doel.ToStdString(), std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), {});
-    }
-    void zetOud() const { std::ofstream(doel.ToStdString()) << "oud"; }
+    std::string lees() const { return leesBestand(doel.ToStdString()); }
     // The names in the directory: nothing may be left beside the target.
     wxArrayString inhoud() const
     {
         wxArrayString namen;
         wxDir::GetAllFiles(map, &namen, "", wxDIR_FILES | wxDIR_HIDDEN);
         return namen;
+    }
+    bool schrijfVol(const wxString& pad) const // on a full disk
+    {
+        VolleSchijf vol;
+        return kern::schrijfTekstBestand(pad, wxString('x', 100000));
     }
     // Writes as the unprivileged user; "1" when it succeeded.
     std::string schrijfAlsNiemand(const wxString& tekst) const
@@ -56,66 +54,50 @@ protected:
     wxString map, doel;
 };
 
-TEST_F(Bestand, ReplacesTheOldFileWholeInUtf8)
+TEST_F(Bestand, ReplacesTheOldFileWholeInUtf8OrOnAFullDiskNotAtAll)
 {
-    zetOud();
+    ASSERT_TRUE(kern::schrijfTekstBestand(doel, wxString("oud"))); // a new file takes its mode from the umask
+    struct stat st;
+    ASSERT_EQ(::stat(doel.c_str(), &st), 0);
+    const mode_t masker = ::umask(0);
+    ::umask(masker);
+    EXPECT_EQ(st.st_mode & 07777, 0666 & ~masker);
     ASSERT_TRUE(kern::schrijfTekstBestand(doel, wxString::FromUTF8("caf\xc3\xa9\n")));
+    EXPECT_FALSE(schrijfVol(doel));
+    ::chmod(doel.c_str(), 0444); // a read-only file is refused, even where it could be renamed over
+    EXPECT_EQ(schrijfAlsNiemand("nieuw"), "0");
     EXPECT_EQ(lees(), "caf\xc3\xa9\n");
     EXPECT_EQ(inhoud().size(), 1u);
-}
-
-TEST_F(Bestand, AFullDiskLeavesTheOldFileAndNoTemporaryFile)
-{
-    zetOud();
-    bool geschreven = true;
-    {
-        VolleSchijf vol;
-        geschreven = kern::schrijfTekstBestand(doel, wxString('x', 100000));
-    }
-    EXPECT_FALSE(geschreven);
-    EXPECT_EQ(lees(), "oud");
-    EXPECT_EQ(inhoud().size(), 1u);
-}
-
-TEST_F(Bestand, AnUnwritableDirectoryOrAReadOnlyFileIsRefused)
-{
+    ::unlink(doel.c_str());
     ::chmod(map.c_str(), 0555);
     EXPECT_EQ(schrijfAlsNiemand("nieuw"), "0");
-    EXPECT_FALSE(wxFileName::FileExists(doel));
-
-    ::chmod(map.c_str(), 0777);
-    zetOud();
-    ::chmod(doel.c_str(), 0444);
-    EXPECT_EQ(schrijfAlsNiemand("nieuw"), "0");
-    EXPECT_EQ(lees(), "oud");
-    EXPECT_EQ(inhoud().size(), 1u);
+    EXPECT_EQ(inhoud().size(), 0u);
 }
 
 // Where the file cannot simply be renamed over, its content changes where it
 // lies; a link is followed; owner, group and mode stay.
 TEST_F(Bestand, TheUsersFileKeepsItsPlaceLinksOwnerAndMode)
 {
-    zetOud();
     const std::string d = doel.ToStdString(), m = map.ToStdString();
+    std::ofstream(d) << "oud";
     ::symlink("CMakeLists.txt", (m + "/link").c_str());
     ::link(d.c_str(), (m + "/tweede").c_str());
     ::chown(d.c_str(), 65534, 65534);
     ::chmod(d.c_str(), 0646);
     ASSERT_TRUE(kern::schrijfTekstBestand(map + "/link", wxString("via de link")));
     struct stat st, link;
-    ASSERT_EQ(::lstat((m + "/link").c_str(), &link), 0);
+    ASSERT_EQ(::lstat((m + "/link").c_str(), &link) + ::stat(d.c_str(), &st), 0);
     EXPECT_TRUE(S_ISLNK(link.st_mode));
-    std::ifstream tweede(m + "/tweede");
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(tweede), {}), "via de link") << "hard link broken";
-    ASSERT_EQ(::stat(d.c_str(), &st), 0);
+    EXPECT_EQ(leesBestand(m + "/tweede"), "via de link") << "hard link broken";
     EXPECT_EQ(st.st_mode & 07777, 0646u);
     if (::geteuid() == 0)
         EXPECT_EQ(st.st_uid * 100000 + st.st_gid, 65534u * 100000 + 65534u);
-    {
-        VolleSchijf vol; // in place too, a failed write leaves the old text
-        EXPECT_FALSE(kern::schrijfTekstBestand(doel, wxString('x', 100000)));
-    }
+    EXPECT_FALSE(schrijfVol(doel)); // in place too, a failed write leaves the old text
     EXPECT_EQ(lees(), "via de link");
+    const std::string groot(5000, 'g'); // too big for the copy of the old text on a full disk
+    ASSERT_TRUE(kern::schrijfTekstBestand(doel, groot));
+    EXPECT_FALSE(schrijfVol(doel));
+    EXPECT_EQ(lees(), groot);
     EXPECT_EQ(inhoud().size(), 3u);
 
     // a writable file in a directory that is not writable
@@ -142,11 +124,9 @@ TEST_F(Bestand, AKillDuringASaveNeverLosesTheFile)
         int buis[2];
         ASSERT_EQ(::pipe(buis), 0);
         const pid_t kind = ::fork();
-        if (kind == 0) {
-            for (char teken = 'b';; teken = teken == 'z' ? 'b' : teken + 1) {
-                ::write(buis[1], "x", 1);
-                kern::schrijfTekstBestand(doel, std::string(groot.size(), teken));
-            }
+        for (char teken = 'b'; kind == 0; teken = teken == 'z' ? 'b' : teken + 1) {
+            ::write(buis[1], "x", 1);
+            kern::schrijfTekstBestand(doel, std::string(groot.size(), teken));
         }
         char gelezen;
         for (int n = 0; n <= ronde % 3; ++n)
@@ -168,10 +148,24 @@ TEST_F(Bestand, AKillDuringASaveNeverLosesTheFile)
     }
 }
 
-// Instances that exit at the same moment each keep their own change.
-TEST_F(Bestand, InstancesSavingTogetherKeepEachOthersChanges)
+// A key this instance did not change since it read or last wrote the file
+// takes what another instance wrote meanwhile; its own changes win. Two
+// instances that save at the same moment each keep their own change.
+TEST_F(Bestand, ASaveKeepsWhatAnotherInstanceWrote)
 {
     const std::string pad = (map + "/.Klavermol").ToStdString();
+    std::ofstream(pad) << "[C]\nEigen=begin\nAnder=begin\n";
+    kern::InstellingenBestand bestand(pad);
+    const auto config = bestand.lees();
+    config->Write("/C/Eigen", "eigen");
+    std::ofstream(pad) << "[C]\nEigen=ander\nAnder=ander\n[N]\nNieuw=1\n";
+    ASSERT_EQ(bestand.bewaar(*config), kern::InstellingenBestand::Geschreven);
+    std::ofstream(pad) << "[C]\nEigen=derde\n";
+    ASSERT_EQ(bestand.bewaar(*config), kern::InstellingenBestand::Geschreven);
+    const auto na = kern::InstellingenBestand(pad).lees();
+    for (const auto& [sleutel, waarde] : {std::pair{"/C/Eigen", "derde"}, {"/C/Ander", "ander"}, {"/N/Nieuw", "1"}})
+        EXPECT_EQ(na->Read(sleutel), waarde) << sleutel;
+
     for (int ronde = 0; ronde < 30; ++ronde) {
         int start[2];
         ASSERT_EQ(::pipe(start), 0);
@@ -199,12 +193,52 @@ TEST_F(Bestand, InstancesSavingTogetherKeepEachOthersChanges)
     }
 }
 
+// What reading takes from a file, and whether the file counts as damaged
+// (-1: not asked); null where the value goes, so that its reader takes the
+// default.
+TEST_F(Bestand, ReadingTakesWhatItCanAndTellsWhetherTheFileWasDamaged)
+{
+    const struct { const char* inhoud; const char* sleutel; const char* waarde; int beschadigd; } rijen[] = {
+        {"\xEF\xBB\xBF  [A]  \r\nx = 1\r\n#x=2\n;x=3\n", "/A/x", "1", 0},
+        {"[A]\nx=\xc2\xa0\xdf\xbf\xe0\xa0\x80\xed\x9f\xbf\xef\xbf\xbd\xf0\x90\x80\x80\xf4\x8f\xbf\xbf\n", "/A/x",
+         "\xc2\xa0\xdf\xbf\xe0\xa0\x80\xed\x9f\xbf\xef\xbf\xbd\xf0\x90\x80\x80\xf4\x8f\xbf\xbf", 0},
+        {"[A]\ny=\x80\nx=jos\xc3\xa9\n", "/A/x", "jos\xc3\xa9", 1}, // one bad byte spoils no other line
+        {"[A]\nx=jos\xc3\xa9\ny=\xe9\n", "/A/x", "jos\xc3\xa9", 1},
+        {"[A]\nx=\xc1\xbf\n", "/A/x", nullptr, 1},
+        {"[A]\nx=\xe0\x9f\xbf\n", "/A/x", nullptr, 1},
+        {"[A]\nx=\xed\xa0\x80\n", "/A/x", nullptr, 1},
+        {"[A]\nx=\xf0\x8f\xbf\xbf\n", "/A/x", nullptr, 1},
+        {"[A]\nx=\xf4\x90\x80\x80\n", "/A/x", nullptr, 1},
+        {"[A]\nx=\xf5\x80\x80\x80\n", "/A/x", nullptr, 1},
+        {"[A]\nx=\xe2\x82\xe2\n", "/A/x", nullptr, 1},
+        {"[A]\nx=1\n[B]\ny=2\n[A]\nx=3\n", "/A/x", "3", 1},
+        {"[A]\nx =1\n x=2\n", "/A/x", "2", 1},
+        {"[A\n[A]\nrommel\nx=1\n", "/A/x", "1", 1},
+        {"[Gebruikersinstellingen]\nEncoding=99999\n", "/Gebruikersinstellingen/Encoding", nullptr, -1},
+        {"[Gebruikersinstellingen]\nEncoding=Nederlands\n", "/Gebruikersinstellingen/Encoding", nullptr, -1},
+        {"[Gebruikersinstellingen]\nEncoding=57\n", "/Gebruikersinstellingen/Encoding", "57", 0},
+        {"[Configuratie]\nVoegSBestandenToe=0\n", "/Configuratie/VoegSBestandenToe", "0", 0},
+        {"[Configuratie]\nVoegSBestandenToe=1\n", "/Configuratie/VoegSBestandenToe", "1", 0},
+        {"[Configuratie]\nVoegSBestandenToe=2\n", "/Configuratie/VoegSBestandenToe", nullptr, -1},
+        {"[Configuratie]\nVoegCBestandenToe=-1\n", "/Configuratie/VoegCBestandenToe", nullptr, -1},
+        {"[Configuratie]\nProjektsoort=99\n", "/Configuratie/Projektsoort", "99", 0}, // the window's to judge
+    };
+    for (const auto& rij : rijen) {
+        std::ofstream(doel.ToStdString(), std::ios::binary | std::ios::trunc) << rij.inhoud;
+        kern::InstellingenBestand bestand(doel.ToStdString());
+        wxString waarde;
+        const bool gevonden = bestand.lees()->Read(rij.sleutel, &waarde);
+        EXPECT_EQ(gevonden ? waarde.utf8_string() : "(none)", rij.waarde ? rij.waarde : "(none)") << rij.inhoud;
+        if (rij.beschadigd >= 0)
+            EXPECT_EQ(bestand.isBeschadigd(), rij.beschadigd == 1) << rij.inhoud;
+    }
+}
+
 // The settings file lives in HOME byte for byte, whatever the locale; a
 // relative HOME is taken from the working directory.
 TEST(InstellingenPad, HomeAsTheFileSystemSpellsIt)
 {
-    const char* oud = std::getenv("HOME");
-    const std::string bewaard = oud ? oud : "";
+    const std::string bewaard = std::getenv("HOME") ? std::getenv("HOME") : "";
     std::setlocale(LC_ALL, "C");
     ::setenv("HOME", "/tmp/\xc5\x82\xc3\xb3\x64\xc5\xba", 1);
     EXPECT_EQ(kern::geefInstellingenPad("Klavermol"), "/tmp/\xc5\x82\xc3\xb3\x64\xc5\xba/.Klavermol");

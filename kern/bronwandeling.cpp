@@ -113,6 +113,18 @@ bool isPseudo(int fd)
     return false;
 }
 
+// The device nodes under /dev: devtmpfs calls itself tmpfs, so it is told
+// by its place instead, when /dev is a file system of its own.
+bool isApparatenMap(dev_t dev)
+{
+    static const dev_t apparaten = [] {
+        struct stat dev, wortel;
+        const bool eigen = ::stat("/dev", &dev) == 0 && ::stat("/", &wortel) == 0 && dev.st_dev != wortel.st_dev;
+        return eigen ? dev.st_dev : dev_t(-1);
+    }();
+    return dev == apparaten;
+}
+
 enum class Soort { Geen, Bestand, Map };
 
 class Wandeling {
@@ -198,7 +210,7 @@ bool Wandeling::magIn(int fd)
         return true;
     auto plek = pseudo_.find(st.st_dev);
     if (plek == pseudo_.end())
-        plek = pseudo_.emplace(st.st_dev, isPseudo(fd)).first;
+        plek = pseudo_.emplace(st.st_dev, isPseudo(fd) || isApparatenMap(st.st_dev)).first;
     return !plek->second;
 }
 

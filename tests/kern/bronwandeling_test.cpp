@@ -192,6 +192,10 @@ TEST(BronWandeling, EveryRealDirectoryOnceOnlyRegularFilesAnyDepth)
     ::mkfifo(boom.pad("vlak/pijp.c").c_str(), 0600);
     boom.maakLink(boom.pad(""), "vlak/terug");
     boom.maakLink("/proc/self", "vlak/proc");
+    // a source on the device file system, which a walk reaches only when picked
+    boom.maakLink("/dev", "vlak/dev");
+    const std::string apparaat = "/dev/shm/klavermol-" + std::to_string(::getpid()) + ".c";
+    ::close(::open(apparaat.c_str(), O_WRONLY | O_CREAT, 0644));
     const auto geefAantal = [&](const wxString& map, int modus) {
         kern::Families c;
         c.c = true;
@@ -205,6 +209,7 @@ TEST(BronWandeling, EveryRealDirectoryOnceOnlyRegularFilesAnyDepth)
     EXPECT_EQ(geefAantal(boom.map("waaier/n0"), kern::ModusRecursief), 23u);
     EXPECT_EQ(geefAantal(boom.map("vlak"), kern::ModusMap), 2u);
     EXPECT_EQ(geefAantal(boom.map(), kern::ModusRecursief), 23u + 1 + 2);
+    ::unlink(apparaat.c_str());
 }
 
 TEST(BronWandeling, UnreadableEntriesArePassedByAndTheWalkEnds)

@@ -125,6 +125,8 @@ TEST_F(Uitvoer, TheFileNameFollowsTheKindAndTheName)
     klik(GebruikSourceDirNaamID);
     EXPECT_EQ(v.projektLibIncludeNaam->GetValue(), "engine");
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "engine.cmake");
+    kiesSoort(1); // from the include kind straight to a library
+    EXPECT_EQ(v.bestandNaamTekst->GetValue(), "CMakeLists.txt");
 }
 
 TEST_F(Uitvoer, AddingCMakeSubDirectories)

@@ -232,17 +232,20 @@ TEST_F(Venster, EnablingFollowsTheListsTheProbeAndTheHistories)
     v.uitvoerTekst->ChangeValue("x");
     EXPECT_TRUE(aan(wxID_SAVE));
 
-    // Add needs a found family that is switched on
-    v.heeftHBestanden = true;
-    EXPECT_FALSE(aan(wxID_ADD));
-    v.voegHBestandenToe = true;
-    EXPECT_TRUE(aan(wxID_ADD));
-    v.voegHBestandenToe = false;
-    v.heeftCBestanden = true;
-    v.voegCPPBestandenToe = true;
-    EXPECT_FALSE(aan(wxID_ADD));
-    v.heeftCPPBestanden = true;
-    EXPECT_TRUE(aan(wxID_ADD));
+    // Add needs a found family that is switched on: one family found, every
+    // other one switched on, is not enough until its own switch is on
+    const std::pair<bool*, StandSchakelaar*> families[] = {{&v.heeftCBestanden, &v.voegCBestandenToe},
+        {&v.heeftCPPBestanden, &v.voegCPPBestandenToe}, {&v.heeftHBestanden, &v.voegHBestandenToe},
+        {&v.heeftSBestanden, &v.voegSBestandenToe}};
+    for (size_t f = 0; f < WXSIZEOF(families); ++f) {
+        for (size_t g = 0; g < WXSIZEOF(families); ++g) {
+            *families[g].first = g == f;
+            *families[g].second = g != f;
+        }
+        EXPECT_FALSE(aan(wxID_ADD)) << f;
+        *families[f].second = true;
+        EXPECT_TRUE(aan(wxID_ADD)) << f;
+    }
 
     // no location at all: forward is on (count - 1 wraps), back is off
     EXPECT_FALSE(aan(wxID_BACKWARD));

@@ -1,23 +1,17 @@
 #pragma once
-// A throw-away directory tree for the tests that need files on disk, and
-// the toolkit's own answers to compare the source search against.
+// A throw-away directory tree, and the toolkit's own answers to compare the
+// source search against.
 #include "kern/bronzoeker.h"
 
-#include <wx/arrstr.h>
-#include <wx/dir.h>
-#include <wx/string.h>
-
 #include <gtest/gtest.h>
+#include <wx/dir.h>
 
 #include <sys/stat.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <random>
 #include <set>
-#include <string>
-#include <vector>
 
 class TijdelijkeBoom {
 public:
@@ -33,8 +27,6 @@ public:
         std::error_code fout;
         std::filesystem::remove_all(wortel_, fout);
     }
-
-    // The root, or a path below it, as the program would hand it over.
     wxString map(const std::string& rel = {}) const
     {
         return wxString::FromUTF8(rel.empty() ? wortel_ : wortel_ + "/" + rel);
@@ -44,11 +36,9 @@ public:
     void maakMap(const std::string& rel) const { std::filesystem::create_directories(pad(rel)); }
     void maakBestand(const std::string& rel, const std::string& inhoud = "x") const
     {
-        const auto p = std::filesystem::path(pad(rel));
-        std::filesystem::create_directories(p.parent_path());
-        std::ofstream(p) << inhoud;
+        maakMap(std::filesystem::path(rel).parent_path());
+        std::ofstream(pad(rel)) << inhoud;
     }
-    // A symbolic link at `rel` whose text is `doel` (relative or absolute).
     void maakLink(const std::string& doel, const std::string& rel) const
     {
         std::filesystem::create_symlink(doel, pad(rel));
@@ -58,7 +48,6 @@ private:
     std::string wortel_;
 };
 
-// The toolkit's flags of add modes 1 and 2.
 inline int geefToolkitVlaggen(int modus)
 {
     return modus == 1 ? (wxDIR_FILES | wxDIR_NO_FOLLOW) : (wxDIR_FILES | wxDIR_DIRS);
@@ -91,7 +80,6 @@ inline wxArrayString verzamelPerPatroon(const wxString& map, const std::vector<w
     return echt;
 }
 
-// A path below the directory `map` of a tree ("" is the root).
 inline std::string onder(const std::string& map, const std::string& naam)
 {
     return map.empty() ? naam : map + "/" + naam;
@@ -107,23 +95,18 @@ inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
     std::mt19937 rnd(zaad);
     const auto kans = [&rnd](unsigned n) { return rnd() % n == 0; };
     const auto kies = [&rnd](const std::vector<std::string>& v) { return v[rnd() % v.size()]; };
-    const std::vector<std::string> alleExt{".c", ".C", ".h", ".H", ".hpp", ".HPP", ".cpp", ".cxx",
-                                           ".CXX", ".s", ".S", ".txt", ".c.orig", "", ".cc", ".hp"};
-    std::vector<std::string> ext;
-    for (const auto& e : alleExt)
+    std::vector<std::string> ext{".c"};
+    for (const char* e : {".C", ".h", ".H", ".hpp", ".HPP", ".cpp", ".cxx", ".CXX", ".s", ".S", ".txt", ".c.orig",
+                          "", ".cc", ".hp"})
         if (kans(2))
             ext.push_back(e);
-    if (ext.empty())
-        ext.push_back(".c");
-    const auto geefExt = [&]() { return ext[rnd() % ext.size()]; };
+    const auto geefExt = [&]() { return kies(ext); };
     const auto geefNaam = [&](int i) {
         std::string naam;
         for (unsigned n = 1 + rnd() % 3; n > 0; --n)
             naam += "aAbBxX"[rnd() % 6];
-        if (kans(10))
-            naam = "\xc3\xa9" + naam;  // é
-        if (kans(15))
-            naam = "b\xff" + naam;     // not UTF-8
+        naam = (kans(10) ? "\xc3\xa9" : "") + naam; // é
+        naam = (kans(15) ? "b\xff" : "") + naam;     // not UTF-8
         return (kans(8) ? "." : "") + naam + std::to_string(i);
     };
 
@@ -150,7 +133,6 @@ inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
         boom.maakLink(boom.pad(kies(doelen)), onder(kies(plekken), "ld" + geefNaam(i) + geefExt()));
 }
 
-// Every combination of the four switches.
 inline std::vector<kern::Families> geefAlleFamilies()
 {
     std::vector<kern::Families> alle;

@@ -1,9 +1,5 @@
-// Generated files that CMake itself reads. Random trees and options go
-// through the writers and the file is run in script mode with the build
-// commands stubbed: the SRCS list it builds must name every checked source
-// exactly once, every include directory must exist, and every listed
-// header's directory must be among them. And real projects that CMake
-// configures, builds and runs.
+// Generated files that CMake itself reads: random trees run in script mode
+// with the build commands stubbed, and a real project built and run.
 #include "kern/bestand.h"
 #include "kern/generator.h"
 
@@ -12,7 +8,6 @@
 #include <wx/filename.h>
 
 #include <cstdio>
-#include <set>
 #include <sstream>
 
 namespace {
@@ -57,7 +52,6 @@ kern::GeneratorInvoer maakInvoer(const wxString& uitvoerDir, int soort, const wx
     return in;
 }
 
-// Writes the text of `in` to `pad`, and gives it.
 wxString schrijfUitvoer(const kern::GeneratorInvoer& in, const wxString& pad)
 {
     kern::Werklijsten werk;
@@ -67,17 +61,10 @@ wxString schrijfUitvoer(const kern::GeneratorInvoer& in, const wxString& pad)
     return tekst;
 }
 
-// Configures and builds the tree with CMake, then runs the program it made;
-// gives what the program printed.
-std::string bouwEnDraai(const TijdelijkeBoom& boom, const wxString& programma)
-{
-    voerUit("cmake -S '" + boom.map() + "' -B '" + boom.map("bouw") + "'");
-    voerUit("cmake --build '" + boom.map("bouw") + "'");
-    return voerUit("'" + boom.map("bouw/" + programma.ToStdString()) + "'");
-}
-
 } // namespace
 
+// The SRCS list must name every checked source exactly once, every include
+// directory must exist, and every listed header's directory must be among them.
 TEST(GeneratorEigenschap, CMakeFindsEveryCheckedSourceOnceInRandomTrees)
 {
     std::mt19937 toeval(20201122);
@@ -92,8 +79,7 @@ TEST(GeneratorEigenschap, CMakeFindsEveryCheckedSourceOnceInRandomTrees)
             boom.maakMap(mappen.back());
         }
         for (int i = 0, n = toeval() % 61; i < n; ++i) {
-            const std::string map = kies(mappen);
-            bestanden.push_back(onder(map, "bestand_met_een_langere_naam-" + std::to_string(i) + "." +
+            bestanden.push_back(onder(kies(mappen), "bestand_met_een_langere_naam-" + std::to_string(i) + "." +
                                                extensies[toeval() % WXSIZEOF(extensies)]));
             boom.maakBestand(bestanden.back());
         }
@@ -138,11 +124,9 @@ TEST(GeneratorEigenschap, CMakeFindsEveryCheckedSourceOnceInRandomTrees)
     }
 }
 
-// A library made with "Add CMake library" into an application. Its paths
-// start from the directory of its own CMakeLists.txt, so that it works as a
-// sub-directory; its directories and sources have names with blanks and
-// CMake's own characters. (A backslash in a source name is escaped in the
-// text as well, but CMake cannot take such a source to a build.)
+// A library made with "Add CMake library" into an application: its paths
+// start from its own CMakeLists.txt, and its names hold blanks and CMake's
+// own characters.
 TEST(EchteBouw, ALibraryAndAProjectThatUsesItConfigureBuildAndRun)
 {
     TijdelijkeBoom boom;
@@ -170,5 +154,7 @@ TEST(EchteBouw, ALibraryAndAProjectThatUsesItConfigureBuildAndRun)
     app.biebs.push_back({boom.map("reken (bieb)"), "rekenen", true});
     schrijfUitvoer(app, boom.map("CMakeLists.txt"));
 
-    EXPECT_EQ(bouwEnDraai(boom, "demo"), "15\n");
+    voerUit("cmake -S '" + boom.map() + "' -B '" + boom.map("bouw") + "'");
+    voerUit("cmake --build '" + boom.map("bouw") + "'");
+    EXPECT_EQ(voerUit("'" + boom.map("bouw/demo") + "'"), "15\n");
 }

@@ -1,6 +1,4 @@
-// The exact texts of the CMake writers, and the edges of the source listing:
-// grouping, the wrap and include-list thresholds, numbered references
-// inside longer numbers, and an early end.
+// The exact texts of the CMake writers, and the edges of the source listing.
 #include "kern/generator.h"
 #include "kern/selektie.h"
 
@@ -26,13 +24,12 @@ kern::GeneratorInvoer maakInvoer(const wxString& uitvoerDir, std::vector<wxStrin
     return in;
 }
 
-struct Uitkomst
-{
+struct Uitkomst {
     kern::Werklijsten werk;
     wxString tekst;
 };
 
-// The shared source listing alone, or the whole text of the chosen kind.
+// The source listing alone, or the whole text of the chosen kind.
 Uitkomst geefLijst(const kern::GeneratorInvoer& in, bool heel = false)
 {
     Uitkomst u;
@@ -40,15 +37,11 @@ Uitkomst geefLijst(const kern::GeneratorInvoer& in, bool heel = false)
     return u;
 }
 
-wxString samen(const wxArrayString& lijst)
-{
-    return wxJoin(lijst, '|', 0);
-}
+wxString samen(const wxArrayString& lijst) { return wxJoin(lijst, '|', 0); }
 
 wxString foreachBlok(int n)
 {
-    return wxString::Format("foreach(SRC ${SRCS%d})\n\tlist(APPEND SRCS ${SRCS%dPath}/${SRC})\nendforeach(SRC)\n\n", n,
-                            n);
+    return wxString::Format("foreach(SRC ${SRCS%d})\n\tlist(APPEND SRCS ${SRCS%dPath}/${SRC})\nendforeach(SRC)\n\n", n, n);
 }
 
 const wxString kop = "## File generated on : 2020-09-07 13:25:22.\n## kop\n\n";
@@ -76,8 +69,7 @@ TEST(Bronlijst, TheWorkedExampleLineByLine)
 
 TEST(Bronlijst, GroupsPerDirectoryWithHeadersAndTheOutputDirectory)
 {
-    const struct
-    {
+    const struct {
         const char* uitvoer;
         std::vector<wxString> bronnen;
         const char *mappen, *paden, *namen, *includes;
@@ -109,8 +101,7 @@ TEST(Bronlijst, GroupsPerDirectoryWithHeadersAndTheOutputDirectory)
         kern::BronSelektie selektie;
         selektie.voegToe("/weg/niet.c");
         selektie.zetAangevinkt(0, false);
-        for (const wxString& b : g.bronnen)
-            selektie.voegToe(b);
+        selektie.voegToe(wxArrayString(g.bronnen.size(), g.bronnen.data()), nullptr);
         kern::GeneratorInvoer uitSelektie = maakInvoer(g.uitvoer);
         uitSelektie.selektie = &selektie;
         EXPECT_EQ(geefLijst(uitSelektie).tekst, u.tekst) << g.mappen;
@@ -145,11 +136,7 @@ TEST(Bronlijst, TheWrapBreaksOnlyPast80FromTheStartOrTheLastTab)
     const auto naamVan = [](size_t lengte, char letter) { return wxString(letter, lengte - 2) + ".c"; };
     const wxString a69 = naamVan(69, 'a'), a70 = naamVan(70, 'a'), a80 = naamVan(80, 'a');
     const wxString c78 = naamVan(78, 'c'), c79 = naamVan(79, 'c');
-    const struct
-    {
-        std::vector<wxString> namen;
-        wxString regel;
-    } gevallen[] = {
+    const struct { std::vector<wxString> namen; wxString regel; } gevallen[] = {
         {{a69, "b.c", "c.c"}, "set(SRCS0 " + a69 + " b.c c.c \n\t)"},
         {{a70, "b.c", "c.c"}, "set(SRCS0 " + a70 + " b.c \n\tc.c )"},
         {{a80, "b.c", c78, "d.c", "e.c"}, "set(SRCS0 " + a80 + " b.c \n\t" + c78 + " d.c e.c \n\t)"},
@@ -180,8 +167,7 @@ TEST(Bronlijst, EighteenHeaderDirectoriesGiveNineThenEightThenOne)
 // the working lists, so an include file still counts them for its sort line.
 TEST(Bronlijst, ASourceOnAnotherVolumeEndsOnlyTheListing)
 {
-    struct Opname : wxLog
-    {
+    struct Opname : wxLog {
         wxString fouten;
         void DoLogRecord(wxLogLevel niveau, const wxString& tekst, const wxLogRecordInfo&) override
         {
@@ -250,14 +236,8 @@ TEST(Generator, TheProjectTexts)
 TEST(Generator, TheLibraryKinds)
 {
     const kern::Sjablonen standaard = kern::geefStandaardSjablonen();
-    const struct
-    {
-        int type;
-        wxString kommando;
-    } gevallen[] = {{0, standaard.biebKommando},
-                    {1, standaard.dynBiebKommando},
-                    {2, standaard.objektBiebKommando},
-                    {3, ""}};
+    const struct { int type; wxString kommando; } gevallen[] = {
+        {0, standaard.biebKommando}, {1, standaard.dynBiebKommando}, {2, standaard.objektBiebKommando}, {3, ""}};
     for (const auto& geval : gevallen) {
         kern::GeneratorInvoer in = maakInvoer("/p/lib", {"/p/lib/a.c"}, kern::SoortBieb);
         in.biebType = geval.type;
@@ -280,11 +260,7 @@ TEST(Generator, TheLibraryKinds)
 // never read.
 TEST(Generator, TheIncludeFiles)
 {
-    const struct
-    {
-        const char* bron;
-        wxString rest;
-    } gevallen[] = {
+    const struct { const char* bron; wxString rest; } gevallen[] = {
         {"/p/inc/a.h", "set(SrcPath0 ${PROJECT_SOURCE_DIR}/inc)\n"
                        "\nset(AllIncludeDirs ${SrcPath0} )\ninclude_directories(${AllIncludeDirs})\n\n"
                        "## Include this file for including the listed include_directories directives.\n\n\n"},

@@ -7,10 +7,7 @@
 namespace {
 
 // The four switches from a text such as "1010" (C, C++, header, assembler).
-kern::Families geefFamilies(const char* aan)
-{
-    return {aan[0] == '1', aan[1] == '1', aan[2] == '1', aan[3] == '1'};
-}
+kern::Families geefFamilies(const char* aan) { return {aan[0] == '1', aan[1] == '1', aan[2] == '1', aan[3] == '1'}; }
 
 std::string toon(const kern::Aanwezig& v)
 {
@@ -64,9 +61,8 @@ TEST(BronVerzameling, UnopenableDirectoriesAndOtherModesChangeNothing)
         EXPECT_FALSE(kern::onderzoekMap(boom.map("ontbreekt"), modus, geefFamilies("1111"), v));
         EXPECT_EQ(toon(v), "0101");
     }
-    for (int modus : {0, 3, -1})
-        EXPECT_TRUE(kern::verzamelBestanden(boom.map(), modus, c, gevonden));
-    EXPECT_TRUE(kern::verzamelBestanden(boom.map(), 1, kern::Families{}, gevonden));
+    for (int modus : {0, 3, -1, 1})
+        EXPECT_TRUE(kern::verzamelBestanden(boom.map(), modus, modus == 1 ? kern::Families{} : c, gevonden));
     EXPECT_TRUE(kern::verzamelBestanden(boom.map(), 1, c, gevonden));
     EXPECT_EQ(wxJoin(gevonden, '|', 0), "oud|" + boom.map("x.c"));
 }
@@ -81,9 +77,8 @@ kern::Aanwezig onderzoekStapVoorStap(const wxString& map, int modus, const kern:
     if (!dir.IsOpened() || modus < 0 || modus > 2)
         return v;
     // only regular files count, each directory read once
-    const auto eerste = [&](const char* p) {
-        return !verzamelPerPatroon(map, {p}, modus == 0 ? wxDIR_FILES | wxDIR_HIDDEN : geefToolkitVlaggen(modus)).empty();
-    };
+    const int vlaggen = modus == 0 ? wxDIR_FILES | wxDIR_HIDDEN : geefToolkitVlaggen(modus);
+    const auto eerste = [&](const char* p) { return !verzamelPerPatroon(map, {p}, vlaggen).empty(); };
     if (modus == 0)
         return {eerste("*.c"), eerste("*.cpp") || eerste("*.cxx"), eerste("*.h") || eerste("*.hpp"),
                 eerste("*.s") || eerste("*.S")};

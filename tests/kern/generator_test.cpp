@@ -41,7 +41,8 @@ wxString samen(const wxArrayString& lijst) { return wxJoin(lijst, '|', 0); }
 
 wxString foreachBlok(int n)
 {
-    return wxString::Format("foreach(SRC ${SRCS%d})\n\tlist(APPEND SRCS ${SRCS%dPath}/${SRC})\nendforeach(SRC)\n\n", n, n);
+    return wxString::Format("foreach(SRC ${SRCS%d})\n\tlist(APPEND SRCS ${SRCS%dPath}/${SRC})\nendforeach(SRC)\n\n",
+                            n, n);
 }
 
 const wxString kop = "## File generated on : 2020-09-07 13:25:22.\n## kop\n\n";

@@ -10,9 +10,8 @@ namespace {
 wxString voegToe(kern::BronSelektie& selektie, const char* paden)
 {
     wxString dubbel;
-    const wxArrayString nieuw = selektie.voegToe(wxSplit(paden, ' ', 0), [&dubbel](const wxString& p) {
-        dubbel << p << " ";
-    });
+    const auto melder = [&dubbel](const wxString& p) { dubbel << p << " "; };
+    const wxArrayString nieuw = selektie.voegToe(wxSplit(paden, ' ', 0), melder);
     wxString uit = wxJoin(nieuw, ' ', 0) + " | " + dubbel + "|";
     for (size_t i = 0; i < selektie.aantal(); ++i)
         uit << " " << selektie.geef(i);
@@ -52,7 +51,6 @@ TEST(BronSelektie, OnlyPathsWithoutSemicolonOrBackslashCanBeNamedInCMake)
 }
 
 } // namespace
-
 
 // The compact form gives every path back as it was added, also one without
 // a separator; check marks flip per directory; a walk's find is taken

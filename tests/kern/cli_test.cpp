@@ -14,11 +14,7 @@
 
 namespace {
 
-struct Uitslag
-{
-    int code;
-    std::string uit, fout;
-};
+struct Uitslag { int code; std::string uit, fout; };
 
 class Cli : public ::testing::Test
 {
@@ -67,7 +63,6 @@ protected:
         kern::maakUitvoer(invoer, werk, tekst);
         return tekst.utf8_string();
     }
-
     wxString map;
 };
 

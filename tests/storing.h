@@ -19,9 +19,7 @@ inline std::string leesBestand(const std::string& pad)
     return std::string(std::istreambuf_iterator<char>(in), {});
 }
 
-// While it lives, a file may not grow past a few kilobytes: a write beyond
-// fails as it does on a full disk (the signal the kernel would send is
-// ignored meanwhile).
+// While it lives, a write past 4 KiB fails as on a full disk (SIGXFSZ ignored).
 class VolleSchijf
 {
 public:
@@ -31,36 +29,26 @@ public:
         const rlimit klein{4096, oud.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &klein);
     }
-    ~VolleSchijf()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &oud);
-        std::signal(SIGXFSZ, oudeAfhandeling);
-    }
+    ~VolleSchijf() { ::setrlimit(RLIMIT_FSIZE, &oud), std::signal(SIGXFSZ, oudeAfhandeling); }
     VolleSchijf(const VolleSchijf&) = delete;
-    VolleSchijf& operator=(const VolleSchijf&) = delete;
 
 private:
     rlimit oud{};
     void (*oudeAfhandeling)(int);
 };
 
-// Permission faults cannot be staged for root, who reads and writes
-// everything: as root, `alsNiemand` runs the work in a child process under
-// the unprivileged user "nobody" and hands back what it returned (a short
-// text). Anything the work touches must be reachable for that user.
+// Root reads and writes everything, so as root the work runs in a child as
+// "nobody", and its result (a short text) comes back through a pipe.
 inline std::string alsNiemand(const std::function<std::string()>& werk)
 {
-    if (::geteuid() != 0)
-        return werk();
     int buis[2];
-    if (::pipe(buis) != 0)
-        return "pipe failed";
+    if (::geteuid() != 0 || ::pipe(buis) != 0)
+        return ::geteuid() != 0 ? werk() : "pipe failed";
     const pid_t kind = ::fork();
     if (kind == 0) {
-        const uid_t niemand = 65534;
-        if (::setgroups(0, nullptr) != 0 || ::setgid(niemand) != 0 || ::setuid(niemand) != 0)
+        if (::setgroups(0, nullptr) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0)
             ::_exit(2);
-        ::setenv("TMPDIR", "/tmp", 1); // the caller's own temporary directory is closed to "nobody"
+        ::setenv("TMPDIR", "/tmp", 1); // the caller's own is closed to "nobody"
         const std::string uit = werk();
         ::_exit(::write(buis[1], uit.data(), uit.size()) == static_cast<ssize_t>(uit.size()) ? 0 : 3);
     }

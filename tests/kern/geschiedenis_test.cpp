@@ -19,18 +19,12 @@ wxString toon(const GeschiedenisLijst<wxFileName>& lijst)
 
 TEST(GeschiedenisLijst, WhereANewLocationGoes)
 {
-    const struct
-    {
-        int index; // set before the location is added, or -1
-        const char* map;
-        const char* lijst;
-    } stappen[] = {
+    const struct { int index; const char *map, *lijst; } stappen[] = { // index: set before adding, or -1
         {-1, "/A", "/A/ @1"}, // appended, the index one past the end
         {-1, "/B", "/A/ /B/ @2"},
         {-1, "/C", "/A/ /B/ /C/ @3"},
         {-1, "/B/", "/A/ /B/ /C/ @1"}, // a known location only becomes current
-        // inside the list a new one lands before the previous entry, and the
-        // unchanged index then designates that entry
+        // inside the list a new one lands before the previous entry, which the unchanged index then designates
         {-1, "/D", "/D/ /A/ /B/ /C/ @1"},
         {3, "/E", "/D/ /A/ /B/ /C/ /E/ @4"}, // at the last position it is appended
         {0, "/F", "/D/ /A/ /B/ /C/ /E/ /F/ @1"}, // and at 0

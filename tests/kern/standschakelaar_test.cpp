@@ -4,11 +4,8 @@
 
 TEST(StandSchakelaar, ExclusiveOrFlipAndLock)
 {
-    EXPECT_EQ(StandSchakelaar(false, false).stand(), 0);
-    EXPECT_EQ(StandSchakelaar(true, false).stand(), 1);
-    EXPECT_EQ(StandSchakelaar(false, true).stand(), 1);
-    EXPECT_EQ(StandSchakelaar(true, true).stand(), 0);
-
+    for (int a = 0; a < 4; ++a)
+        EXPECT_EQ(StandSchakelaar(a & 1, a & 2).stand(), (a == 1 || a == 2) ? 1 : 0) << a;
     StandSchakelaar s;
     EXPECT_FALSE(s.isVergrendeld());
     EXPECT_EQ(s.om(), 1);
@@ -18,8 +15,6 @@ TEST(StandSchakelaar, ExclusiveOrFlipAndLock)
     EXPECT_EQ(s.om(), 1); // locked: neither assignment nor flip
     s.zetVergrendeld(false);
     s = false;
-    EXPECT_EQ(s.stand(), 0);
     EXPECT_FALSE(s.boolean());
-    EXPECT_EQ(s.om(), 1);
-    EXPECT_EQ(s.om(), 0);
+    EXPECT_EQ(s.stand() * 100 + s.om() * 10 + s.om(), 10);
 }

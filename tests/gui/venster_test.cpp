@@ -52,18 +52,16 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
         {v.GetStatusBar()->GetStatusText(0), "Welkom bij Klavermol !!"},
         {v.GetStatusBar()->GetStatusText(1), "Current filter searches for:"},
         {v.selekteerAllesKnop->GetLabel(), "Select all"},
-        {menu->GetMenuLabelText(0), "General"},
-        {menu->GetMenuLabelText(1), "Navigation"},
-        {menu->GetMenuLabelText(2), "Options"},
+        {menu->GetMenuLabelText(0) + "|" + menu->GetMenuLabelText(1) + "|" + menu->GetMenuLabelText(2),
+         "General|Navigation|Options"},
         {menu->FindItem(wxID_PREFERENCES)->GetItemLabel(), "Preferences\tCtrl+,"},
         {menu->FindItem(wxID_HOME)->GetItemLabel(), "Go home\tCtrl+h"},
         {menu->FindItem(wxID_MORE)->GetItemLabel(), "Go somewhere else\tCtrl+g"},
         {menu->FindItem(ZetAlsUitvoerID)->GetItemLabel(), "Set the current directory as the output dir\tF1"},
         {menu->FindItem(AutoZetUitvoerDirID)->GetHelp(), "Automatically set output dir from Source top dir"},
         {menu->FindItem(VoegSBestandenToeID)->GetItemLabel(), "Include ASM Files in list\tF6"},
-        {v.selektieBoek->GetPageText(0), "Source Files"},
-        {v.selektieBoek->GetPageText(1), "Libraries"},
-        {v.selektieBoek->GetPageText(2), "Include files"},
+        {v.selektieBoek->GetPageText(0) + "|" + v.selektieBoek->GetPageText(1) + "|" + v.selektieBoek->GetPageText(2),
+         "Source Files|Libraries|Include files"},
         {v.FindWindow(wxID_HOME)->GetToolTipText(), "Go to your home directory"},
         {v.bestandSelektieLijst->GetToolTipText(), "These entries (when checked) will be included in the CMake file."},
     };
@@ -72,19 +70,13 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
     EXPECT_EQ(menu->GetMenuCount(), 3u);
     EXPECT_EQ(v.selektieBoek->GetPageCount(), 3u);
 
-    // the images were found
+    // the images were found; every picture is drawn from its file at its own
+    // size: see-through at the corner and solid over a good part of its square
     EXPECT_TRUE(v.GetIcon().IsOk());
     EXPECT_TRUE(menu->FindItem(ZetTaalID)->GetBitmap().IsOk());
-    for (int id : std::initializer_list<int>{wxID_HOME, VorigeLokatieID, wxID_BACKWARD, wxID_FORWARD, wxID_ADD, VoegToeCMakeSubDirID,
-                   VoegToeCMakeIncludeID, wxID_APPLY})
+    for (int id : std::initializer_list<int>{wxID_HOME, VorigeLokatieID, wxID_BACKWARD, wxID_FORWARD, wxID_ADD,
+                                            VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, wxID_APPLY})
         EXPECT_TRUE(static_cast<wxBitmapButton*>(v.FindWindow(id))->GetBitmap().IsOk()) << id;
-}
-
-// Every picture is drawn from its file at its own size: see-through at the
-// corner and solid over a good part of its square.
-TEST_F(Venster, EveryPictureIsDrawnAtItsOwnSize)
-{
-    start();
     const wxString p = "../../../grafisch/ikonen/", q = p + "32x32/icons8-";
     const std::pair<wxString, int> beelden[] = {
         {q + "home.png", 32}, {q + "time_machine.png", 32}, {q + "circled_left.png", 32},
@@ -93,7 +85,7 @@ TEST_F(Venster, EveryPictureIsDrawnAtItsOwnSize)
         {"ikoon/Klavermol.jpg", 32}, {q + "customer_support.png", 32}, {q + "project_setup.png", 32},
         {q + "books.png", 32}, {q + "circuit.png", 32}};
     for (const auto& [naam, maat] : beelden) {
-        const wxImage beeld = venster().GetBitmapResource(naam).GetBitmap(wxDefaultSize).ConvertToImage();
+        const wxImage beeld = v.GetBitmapResource(naam).GetBitmap(wxDefaultSize).ConvertToImage();
         ASSERT_TRUE(beeld.IsOk() && beeld.HasAlpha() && beeld.GetSize() == wxSize(maat, maat)) << naam;
         const unsigned char* alfa = beeld.GetAlpha();
         const auto dekkend = std::count_if(alfa, alfa + maat * maat, [](int a) { return a > 200; });
@@ -101,35 +93,34 @@ TEST_F(Venster, EveryPictureIsDrawnAtItsOwnSize)
     }
 }
 
-TEST_F(Venster, APreWrittenStoreIsRestoredIntoEveryControl)
+// A pre-written store is restored into every control and written back as it
+// was at exit.
+TEST_F(Venster, TheStoreIsRestoredIntoEveryControlAndWrittenBackInFull)
 {
-    const wxString bron = maakMap("bron");
-    const wxString uit = maakMap("uit");
-    maakBestand("bron/lib/CMakeLists.txt");
-    maakBestand("bron/extra.cmake");
-    schrijfInstellingen("[Configuratie]\n"
-                        "DirPad=" + bron.ToStdString() + "\n"
-                        "UitvoerDirPad=" + uit.ToStdString() + "\n"
-                        "Projektnaam=Motor\nProjektsoort=2\nProjekttype=1\nBiebtype=2\n"
-                        "BestandNaamTekst=Motor.cmake\nVoegToeMethode=2\n"
-                        "CMakeSubDirPad=" + bron.ToStdString() + "/lib/CMakeLists.txt\n"
-                        "CMakeIncludeDirPad=" + bron.ToStdString() + "/extra.cmake\n"
-                        "AutoDirToewijzing=0\n"
-                        "VoegCBestandenToe=1\nVoegCPPBestandenToe=0\nVoegHBestandenToe=1\nVoegSBestandenToe=1\n"
-                        "UitsluitTerm=test\nfile1=/a\nfile2=/b\n");
+    const wxString bron = maakMap("bron"), uit = maakMap("uit");
+    const std::pair<const char*, wxString> store[] = {
+        {"DirPad", bron}, {"UitvoerDirPad", uit}, {"Projektnaam", "Motor met spatie"}, {"Projektsoort", "2"},
+        {"Projekttype", "1"}, {"Biebtype", "2"}, {"BestandNaamTekst", "Motor.cmake"}, {"VoegToeMethode", "2"},
+        {"CMakeSubDirPad", maakBestand("bron/lib/CMakeLists.txt")},
+        {"CMakeIncludeDirPad", maakBestand("bron/extra.cmake")}, {"AutoDirToewijzing", "0"},
+        {"VoegCBestandenToe", "1"}, {"VoegCPPBestandenToe", "0"}, {"VoegHBestandenToe", "1"},
+        {"VoegSBestandenToe", "1"}, {"UitsluitTerm", "test"}, {"file1", "/a"}, {"file2", "/b"}};
+    std::string tekst = "[Configuratie]\n";
+    for (const auto& [sleutel, waarde] : store)
+        tekst += std::string(sleutel) + "=" + waarde.utf8_string() + "\n";
+    schrijfInstellingen(tekst);
     start();
     KlavermolVenster& v = venster();
     EXPECT_EQ(v.vindBestandenInDirs->GetPath(), bron);
     EXPECT_EQ(v.outputDirPicker->GetPath(), uit); // the automatic output directory is off
-    EXPECT_EQ(v.projektLibIncludeNaam->GetValue(), "Motor");
+    EXPECT_EQ(v.projektLibIncludeNaam->GetValue(), "Motor met spatie");
     EXPECT_EQ(v.uitvoerSoortKeuze->GetSelection(), 2);
     EXPECT_EQ(v.naamKader->GetLabel(), "Include name");
     EXPECT_EQ(v.cmakeProjektKeuze->GetSelection(), 1);
     EXPECT_EQ(v.cmakeBiebKeuze->GetSelection(), 2);
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "Motor.cmake");
     EXPECT_EQ(v.voegToeModeKeuze->GetSelection(), 2);
-    EXPECT_TRUE(v.subDirHeeftCMakeLists);
-    EXPECT_TRUE(v.includeIsCMake);
+    EXPECT_TRUE(v.subDirHeeftCMakeLists && v.includeIsCMake);
     EXPECT_FALSE(v.GetMenuBar()->IsChecked(AutoZetUitvoerDirID));
     EXPECT_TRUE(v.GetMenuBar()->IsChecked(VoegHBestandenToeID));
     EXPECT_FALSE(v.GetMenuBar()->IsChecked(VoegCPPBestandenToeID));
@@ -137,44 +128,19 @@ TEST_F(Venster, APreWrittenStoreIsRestoredIntoEveryControl)
     EXPECT_EQ(v.uitsluitTerm->GetValue(), "test");
     ASSERT_EQ(v.recenteLokaties.GetCount(), 2u);
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), "/a");
-}
-
-TEST_F(Venster, TheStateIsWrittenBackInFullAtExit)
-{
-    start();
-    KlavermolVenster& v = venster();
-    const wxString bron = maakMap("bron");
-    v.vindBestandenInDirs->SetPath(bron);
-    v.outputDirPicker->SetPath(bron);
-    v.projektLibIncludeNaam->ChangeValue("Naam met spatie");
-    v.uitvoerSoortKeuze->SetSelection(1);
-    v.cmakeProjektKeuze->SetSelection(1);
-    v.cmakeBiebKeuze->SetSelection(1);
-    v.bestandNaamTekst->ChangeValue("x.txt");
-    v.voegToeModeKeuze->SetSelection(1);
-    v.GetMenuBar()->Check(AutoZetUitvoerDirID, false);
-    v.voegSBestandenToe = true;
-    v.uitsluitTerm->ChangeValue("");
-    v.recenteLokaties.AddFileToHistory("/oud");
-    v.recenteLokaties.AddFileToHistory("/nieuw");
+    v.uitsluitTerm->ChangeValue(""); // an empty term is written as such
     stop();
 
     auto config = leesInstellingen();
     config->SetPath("/Configuratie");
-    const std::pair<const char*, wxString> verwacht[] = {
-        {"DirPad", bron}, {"UitvoerDirPad", bron}, {"Projektnaam", "Naam met spatie"}, {"Projektsoort", "1"},
-        {"Projekttype", "1"}, {"Biebtype", "1"}, {"BestandNaamTekst", "x.txt"}, {"VoegToeMethode", "1"},
-        {"CMakeSubDirPad", thuis}, {"CMakeIncludeDirPad", thuis}, {"AutoDirToewijzing", "0"},
-        {"VoegCBestandenToe", "0"}, {"VoegSBestandenToe", "1"}, {"UitsluitTerm", ""}, {"file1", "/nieuw"},
-        {"file2", "/oud"},
-    };
-    for (const auto& [sleutel, waarde] : verwacht)
-        EXPECT_EQ(config->Read(sleutel, "missing"), waarde) << sleutel;
+    for (const auto& [sleutel, waarde] : store)
+        EXPECT_EQ(config->Read(sleutel, "missing"), wxString(sleutel) == "UitsluitTerm" ? "" : waarde) << sleutel;
 }
 
-// Per output kind: which of the kind-bound controls and menu items are on,
-// with a sub-directory CMakeLists.txt and an include file chosen.
-TEST_F(Venster, EnablingFollowsTheOutputKind)
+// Per output kind, with a sub-directory CMakeLists.txt and an include file
+// chosen, which kind-bound controls and menu items are on; then the lists, the
+// probe and the histories.
+TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
 {
     start();
     KlavermolVenster& v = venster();
@@ -209,12 +175,8 @@ TEST_F(Venster, EnablingFollowsTheOutputKind)
     v.vindBestandenInDirs->SetPath(bron);
     opdracht(wxEVT_MENU, ZetAlsUitvoerID);
     EXPECT_EQ(v.outputDirPicker->GetPath(), bron);
-}
 
-TEST_F(Venster, EnablingFollowsTheListsTheProbeAndTheHistories)
-{
-    start();
-    KlavermolVenster& v = venster();
+    // the lists, the probe and the histories
     v.biebLijst->Append("/lib");
     v.includeLijst->Append("/x.cmake");
     EXPECT_FALSE(aan(wxID_APPLY)); // only the source list counts

@@ -62,9 +62,7 @@ protected:
     void kiesSoort(int soort)
     {
         venster().uitvoerSoortKeuze->SetSelection(soort);
-        wxCommandEvent e(wxEVT_CHOICE, UitvoerSoortKeuzeID);
-        e.SetInt(soort);
-        venster().ProcessWindowEvent(e);
+        opdracht(wxEVT_CHOICE, UitvoerSoortKeuzeID, soort);
     }
 
     void kiesBestand(wxFilePickerCtrl* picker, int id, const wxString& pad)

@@ -144,24 +144,19 @@ TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
 {
     start();
     KlavermolVenster& v = venster();
-    const struct
-    {
-        int soort;
-        bool projekt, bieb, naam, subDir, f1f2;
-    } regels[] = {{0, true, false, false, true, false}, {1, false, true, false, false, true},
-                  {2, false, false, true, true, true}};
-    for (const auto& r : regels) {
-        v.uitvoerSoortKeuze->SetSelection(r.soort);
+    // project type, library type, file name, sub-directory picker and Add,
+    // include Add (follows the probe, whatever the kind), then F1 and F2
+    const int ids[] = {CMakeProjektKeuzeID, CMakeBiebKeuzeID, BestandNaamTekstID, VindCMakeSubDirID,
+                       VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, ZetAlsUitvoerID, AutoZetUitvoerDirID};
+    const char* const verwacht[] = {"10011000", "01000111", "00111111"};
+    for (int soort = 0; soort < 3; ++soort) {
+        v.uitvoerSoortKeuze->SetSelection(soort);
         v.subDirHeeftCMakeLists = true;
-        v.includeIsCMake = r.soort != 0;
-        EXPECT_EQ(aan(CMakeProjektKeuzeID), r.projekt) << r.soort;
-        EXPECT_EQ(aan(CMakeBiebKeuzeID), r.bieb) << r.soort;
-        EXPECT_EQ(aan(BestandNaamTekstID), r.naam) << r.soort;
-        EXPECT_EQ(aan(VindCMakeSubDirID), r.subDir) << r.soort;
-        EXPECT_EQ(aan(VoegToeCMakeSubDirID), r.subDir) << r.soort;
-        EXPECT_EQ(aan(VoegToeCMakeIncludeID), r.soort != 0) << r.soort; // whatever the kind
-        EXPECT_EQ(menuAan(ZetAlsUitvoerID), r.f1f2) << r.soort;
-        EXPECT_EQ(menuAan(AutoZetUitvoerDirID), r.f1f2) << r.soort;
+        v.includeIsCMake = soort != 0;
+        std::string gezien;
+        for (int i = 0; i < 8; ++i)
+            gezien += (i < 6 ? aan(ids[i]) : menuAan(ids[i])) ? '1' : '0';
+        EXPECT_EQ(gezien, verwacht[soort]) << "kind " << soort;
     }
     v.subDirHeeftCMakeLists = false;
     EXPECT_FALSE(aan(VoegToeCMakeSubDirID));

@@ -3,6 +3,7 @@
 #include "programma.h"
 
 #include <algorithm>
+#include <map>
 
 #include <wx/bmpbuttn.h>
 #include <wx/checkbox.h>
@@ -128,13 +129,32 @@ TEST_F(Venster, TheStoreIsRestoredIntoEveryControlAndWrittenBackInFull)
     EXPECT_EQ(v.uitsluitTerm->GetValue(), "test");
     ASSERT_EQ(v.recenteLokaties.GetCount(), 2u);
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), "/a");
-    v.uitsluitTerm->ChangeValue(""); // an empty term is written as such
+
+    // what the controls hold at exit is written, the rest as it was read
+    std::map<std::string, wxString> weg(std::begin(store), std::end(store));
+    v.vindBestandenInDirs->SetPath(weg["DirPad"] = uit);
+    v.outputDirPicker->SetPath(weg["UitvoerDirPad"] = bron);
+    v.projektLibIncludeNaam->ChangeValue(weg["Projektnaam"] = "Naam");
+    v.uitvoerSoortKeuze->SetSelection(1);
+    v.cmakeProjektKeuze->SetSelection(0);
+    v.cmakeBiebKeuze->SetSelection(1);
+    v.bestandNaamTekst->ChangeValue(weg["BestandNaamTekst"] = "x.txt");
+    v.voegToeModeKeuze->SetSelection(1);
+    v.GetMenuBar()->Check(AutoZetUitvoerDirID, true);
+    v.voegCPPBestandenToe = true;
+    v.voegSBestandenToe = false;
+    v.uitsluitTerm->ChangeValue(weg["UitsluitTerm"] = ""); // an empty term is written as such
+    v.recenteLokaties.AddFileToHistory("/nieuw");
+    for (const char* k : {"Projektsoort", "Biebtype", "VoegToeMethode", "AutoDirToewijzing", "VoegCPPBestandenToe"})
+        weg[k] = "1";
+    weg["Projekttype"] = weg["VoegSBestandenToe"] = "0";
+    weg["file1"] = "/nieuw", weg["file2"] = "/a", weg["file3"] = "/b";
     stop();
 
     auto config = leesInstellingen();
     config->SetPath("/Configuratie");
-    for (const auto& [sleutel, waarde] : store)
-        EXPECT_EQ(config->Read(sleutel, "missing"), wxString(sleutel) == "UitsluitTerm" ? "" : waarde) << sleutel;
+    for (const auto& [sleutel, waarde] : weg)
+        EXPECT_EQ(config->Read(sleutel, "missing"), waarde) << sleutel;
 }
 
 // Per output kind, with a sub-directory CMakeLists.txt and an include file

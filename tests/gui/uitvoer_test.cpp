@@ -24,47 +24,29 @@
 
 namespace {
 
-// Answers the library-name question with a name (or cancels).
-class GeefNaam : public wxExpectModalBase<wxTextEntryDialog, GeefNaam>
+// Answers the library-name question, which starts empty, with a name.
+Antwoord<wxTextEntryDialog> geefNaam(const wxString& naam, int antwoord = wxID_OK)
 {
-public:
-    explicit GeefNaam(const wxString& naam, int antwoord = wxID_OK) : naam(naam), antwoord(antwoord) {}
-
-protected:
-    int OnInvoked(wxTextEntryDialog* dlg) const override
-    {
-        EXPECT_EQ(dlg->GetValue(), "");
-        dlg->SetValue(naam);
+    return Antwoord<wxTextEntryDialog>([=](wxTextEntryDialog& dlg) {
+        EXPECT_EQ(dlg.GetValue(), "");
+        dlg.SetValue(naam);
         return antwoord;
-    }
+    });
+}
 
-private:
-    wxString naam;
-    int antwoord;
-};
-
-// Picks a file name in the save dialog after checking what it proposes.
-class BewaarAls : public wxExpectModalBase<wxFileDialog, BewaarAls>
+// Picks `pad` in the save dialog after checking what it proposes.
+Antwoord<wxFileDialog> bewaarAls(const wxString& pad, const wxString& map, const wxString& naam,
+                                 const wxString& wildcard = "TXT files (*.txt)|*.txt")
 {
-public:
-    BewaarAls(const wxString& pad, const wxString& wildcard, const wxString& map, const wxString& naam)
-        : pad(pad), wildcard(wildcard), map(map), naam(naam) {}
-
-protected:
-    int OnInvoked(wxFileDialog* dlg) const override
-    {
-        EXPECT_EQ(dlg->GetWildcard(), wildcard);
-        EXPECT_EQ(dlg->GetDirectory(), map);
-        EXPECT_EQ(dlg->GetFilename(), naam);
-        EXPECT_TRUE(dlg->HasFlag(wxFD_SAVE));
-        EXPECT_TRUE(dlg->HasFlag(wxFD_OVERWRITE_PROMPT));
-        dlg->SetPath(pad);
+    return Antwoord<wxFileDialog>([=](wxFileDialog& dlg) {
+        EXPECT_EQ(dlg.GetWildcard(), wildcard);
+        EXPECT_EQ(dlg.GetDirectory(), map);
+        EXPECT_EQ(dlg.GetFilename(), naam);
+        EXPECT_TRUE(dlg.HasFlag(wxFD_SAVE) && dlg.HasFlag(wxFD_OVERWRITE_PROMPT));
+        dlg.SetPath(pad);
         return wxID_OK;
-    }
-
-private:
-    wxString pad, wildcard, map, naam;
-};
+    });
+}
 
 std::string leesBytes(const wxString& pad)
 {
@@ -80,12 +62,8 @@ protected:
     void kiesSoort(int soort)
     {
         venster().uitvoerSoortKeuze->SetSelection(soort);
-        wxCommandEvent e(wxEVT_CHOICE, UitvoerSoortKeuzeID);
-        e.SetInt(soort);
-        venster().ProcessWindowEvent(e);
+        opdracht(wxEVT_CHOICE, UitvoerSoortKeuzeID, soort);
     }
-
-    void typNaam(const wxString& naam) { venster().projektLibIncludeNaam->SetValue(naam); }
 
     void kiesBestand(wxFilePickerCtrl* picker, int id, const wxString& pad)
     {
@@ -93,30 +71,24 @@ protected:
         wxFileDirPickerEvent e(wxEVT_FILEPICKER_CHANGED, picker, id, pad);
         venster().ProcessWindowEvent(e);
     }
-
-    wxString maakBestand(const wxString& pad)
-    {
-        std::ofstream(pad.ToStdString()) << "\n";
-        return pad;
-    }
 };
 
-TEST_F(Uitvoer, TheFileNameFollowsTheKindAndTheName)
+TEST_F(Uitvoer, TheFileNameFollowsTheKindAndTheNameAndSaveProposesIt)
 {
     start();
     KlavermolVenster& v = venster();
-    typNaam("Common");
+    v.projektLibIncludeNaam->SetValue("Common");
     kiesSoort(2);
     EXPECT_EQ(v.naamKader->GetLabel(), "Include name");
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "Common.cmake");
-    typNaam("Engine");
+    v.projektLibIncludeNaam->SetValue("Engine");
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "Engine.cmake");
     kiesSoort(0);
     EXPECT_EQ(v.naamKader->GetLabel(), "Project name");
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "CMakeLists.txt");
     kiesSoort(1);
     EXPECT_EQ(v.naamKader->GetLabel(), "Library name");
-    typNaam("mylib"); // not the include kind: the file name stays
+    v.projektLibIncludeNaam->SetValue("mylib"); // not the include kind: the file name stays
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "CMakeLists.txt");
 
     // "use the output directory's name"
@@ -127,20 +99,34 @@ TEST_F(Uitvoer, TheFileNameFollowsTheKindAndTheName)
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "engine.cmake");
     kiesSoort(1); // from the include kind straight to a library
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "CMakeLists.txt");
+
+    // Save writes UTF-8 without a byte-order mark; its wildcard follows the
+    // project type, not the kind
+    const wxString map = maakMap("uit");
+    v.outputDirPicker->SetPath(map);
+    v.zetUitvoer(wxString::FromUTF8("set(Naam Caf\xC3\xA9)\n"));
+    wxTEST_DIALOG(klik(wxID_SAVE), bewaarAls(map + "/CMakeLists.txt", map, "CMakeLists.txt"));
+    EXPECT_EQ(leesBytes(map + "/CMakeLists.txt"), "set(Naam Caf\xC3\xA9)\n");
+    EXPECT_FALSE(v.uitvoerTekst->IsEmpty());
+    v.zetUitvoer("x");
+    kiesSoort(2);
+    v.cmakeProjektKeuze->SetSelection(1);
+    const wxString doel = map + "/engine.cmake";
+    wxTEST_DIALOG(klik(wxID_SAVE), bewaarAls(doel, map, "engine.cmake",
+                                             "TXT files (*.txt)|*.txt|CMake files (*.cmake)|*.cmake"));
+    v.cmakeProjektKeuze->SetSelection(0);
+    wxTEST_DIALOG(klik(wxID_SAVE), bewaarAls(doel, map, "engine.cmake"));
+    EXPECT_EQ(leesBytes(doel), "x");
 }
 
 TEST_F(Uitvoer, AddingCMakeSubDirectories)
 {
     start();
     KlavermolVenster& v = venster();
-    const wxString lib = maakMap("lib");
-    const wxString ander = maakMap("ander");
-    maakBestand(lib + "/CMakeLists.txt");
-    maakBestand(ander + "/CMakeLists.txt");
-
-    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, lib + "/CMakeLists.txt");
+    const wxString lib = maakMap("lib"), ander = maakMap("ander");
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand("lib/CMakeLists.txt"));
     EXPECT_TRUE(v.subDirHeeftCMakeLists);
-    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam("mylib"));
+    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), geefNaam("mylib"));
     ASSERT_EQ(v.biebLijst->GetCount(), 1u);
     EXPECT_EQ(v.biebLijst->GetString(0), lib);
     EXPECT_TRUE(v.biebLijst->IsChecked(0));
@@ -149,44 +135,33 @@ TEST_F(Uitvoer, AddingCMakeSubDirectories)
     EXPECT_EQ(v.selektieBoek->GetSelection(), 1);
     EXPECT_EQ(v.GetStatusBar()->GetStatusText(0), "CMakeLists.txt was added to your selection list.");
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), lib);
-
-    // the same directory again: refused without a question
-    klik(VoegToeCMakeSubDirID);
+    klik(VoegToeCMakeSubDirID); // again: refused without a question
     EXPECT_TRUE(heeftLog(wxLOG_Message, "CMakeLists.txt won't be added since it is already in your selection list."));
     EXPECT_EQ(v.biebLijst->GetCount(), 1u);
 
-    // another directory, outside the output directory (said so): a second
-    // row; an empty name is taken as typed
+    // outside the output directory (said so); an empty name is taken as typed
     v.outputDirPicker->SetPath(lib);
-    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, ander + "/CMakeLists.txt");
-    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam(""));
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand("ander/CMakeLists.txt"));
+    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), geefNaam(""));
     ASSERT_EQ(v.biebLijst->GetCount(), 2u);
     EXPECT_EQ(v.subDirBiebNamen[1], "");
     EXPECT_EQ(v.GetStatusBar()->GetStatusText(0), ander + " lies outside the output directory: CMake's "
                                                           "add_subdirectory needs a binary directory for it.");
-
-    // cancelling the name question adds nothing
-    const wxString derde = maakMap("derde");
-    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(derde + "/CMakeLists.txt"));
-    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), GeefNaam("x", wxID_CANCEL));
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand("derde/CMakeLists.txt"));
+    wxTEST_DIALOG(klik(VoegToeCMakeSubDirID), geefNaam("x", wxID_CANCEL));
     EXPECT_EQ(v.biebLijst->GetCount(), 2u);
 
     // a file of another name is refused even where the directory holds one
-    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(derde + "/build.txt"));
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand("derde/build.txt"));
     EXPECT_TRUE(v.subDirHeeftCMakeLists);
     klik(VoegToeCMakeSubDirID);
     EXPECT_TRUE(heeftLog(wxLOG_Error, "The selected dir does not contain a CMakeLists.txt file."));
     EXPECT_EQ(v.biebLijst->GetCount(), 2u);
-    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand(maakMap("leeg") + "/x.txt"));
+    kiesBestand(v.vindCMakeSubDir, VindCMakeSubDirID, maakBestand("leeg/x.txt"));
     EXPECT_FALSE(v.subDirHeeftCMakeLists);
-}
 
-TEST_F(Uitvoer, AddingIncludeFiles)
-{
-    start();
-    KlavermolVenster& v = venster();
-    const wxString map = maakMap("cmake");
-    const wxString bestand = maakBestand(map + "/extra.cmake");
+    // include files
+    const wxString bestand = maakBestand("cmake/extra.cmake");
     kiesBestand(v.vindCMakeIncludeDir, VindCMakeIncludeDirID, bestand);
     EXPECT_TRUE(v.includeIsCMake);
     klik(VoegToeCMakeIncludeID);
@@ -195,39 +170,13 @@ TEST_F(Uitvoer, AddingIncludeFiles)
     EXPECT_TRUE(v.includeLijst->IsChecked(0));
     EXPECT_EQ(v.selektieBoek->GetSelection(), 2);
     EXPECT_EQ(v.GetStatusBar()->GetStatusText(0), "extra.cmake was added to your selection list.");
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), map);
-
+    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), thuis + "/cmake");
     klik(VoegToeCMakeIncludeID);
     EXPECT_TRUE(heeftLog(wxLOG_Message, "extra.cmake won't be added since it is already in your selection list."));
     EXPECT_EQ(v.includeLijst->GetCount(), 1u);
-
-    kiesBestand(v.vindCMakeIncludeDir, VindCMakeIncludeDirID, maakBestand(map + "/GROOT.CMAKE"));
+    kiesBestand(v.vindCMakeIncludeDir, VindCMakeIncludeDirID, maakBestand("cmake/GROOT.CMAKE"));
     EXPECT_FALSE(v.includeIsCMake);
-    v.UpdateWindowUI(wxUPDATE_UI_RECURSE);
-    EXPECT_FALSE(v.FindWindow(VoegToeCMakeIncludeID)->IsEnabled());
-}
-
-TEST_F(Uitvoer, SaveWritesUtf8AndItsWildcardFollowsTheProjectTypeNotTheKind)
-{
-    start();
-    KlavermolVenster& v = venster();
-    const wxString map = maakMap("uit");
-    v.outputDirPicker->SetPath(map);
-    v.zetUitvoer(wxString::FromUTF8("set(Naam Caf\xC3\xA9)\n"));
-    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(map + "/CMakeLists.txt", "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
-    EXPECT_EQ(leesBytes(map + "/CMakeLists.txt"), "set(Naam Caf\xC3\xA9)\n"); // no byte-order mark
-    EXPECT_FALSE(v.uitvoerTekst->IsEmpty());
-
-    v.zetUitvoer("x");
-    typNaam("Common");
-    kiesSoort(2);
-    v.cmakeProjektKeuze->SetSelection(1);
-    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(map + "/Common.cmake",
-                                             "TXT files (*.txt)|*.txt|CMake files (*.cmake)|*.cmake", map,
-                                             "Common.cmake"));
-    v.cmakeProjektKeuze->SetSelection(0);
-    wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(map + "/Common.cmake", "TXT files (*.txt)|*.txt", map, "Common.cmake"));
-    EXPECT_EQ(leesBytes(map + "/Common.cmake"), "x");
+    EXPECT_FALSE(aan(VoegToeCMakeIncludeID));
 }
 
 TEST_F(Uitvoer, SaveFaultsShowTheErrorAndKeepTheOldFilesAndTheText)
@@ -236,14 +185,13 @@ TEST_F(Uitvoer, SaveFaultsShowTheErrorAndKeepTheOldFilesAndTheText)
     KlavermolVenster& v = venster();
     const wxString tekst('x', 100000);
     v.zetUitvoer(tekst);
-    const wxString map = v.outputDirPicker->GetPath();
-    const wxString alleen = maakBestand(map + "/alleen.txt");
+    const wxString alleen = maakBestand("alleen.txt");
     wxChmod(alleen, 0444);
-    const wxString doel = map + "/CMakeLists.txt";
+    const wxString doel = thuis + "/CMakeLists.txt";
     std::ofstream(doel.ToStdString()) << "oud";
     // each with the system's reason on the next line
     const auto bewaar = [&](const wxString& pad, const wxString& reden) {
-        wxTEST_DIALOG(klik(wxID_SAVE), BewaarAls(pad, "TXT files (*.txt)|*.txt", map, "CMakeLists.txt"));
+        wxTEST_DIALOG(klik(wxID_SAVE), bewaarAls(pad, thuis, "CMakeLists.txt"));
         const std::vector<wxString> fouten = logMet(wxLOG_Error, "Failed to open output file " + pad + " for writing to.\n");
         ASSERT_EQ(fouten.size(), 1u) << pad;
         const wxString waarom = fouten[0].AfterFirst('\n');
@@ -258,12 +206,10 @@ TEST_F(Uitvoer, SaveFaultsShowTheErrorAndKeepTheOldFilesAndTheText)
     EXPECT_EQ(leesBytes(alleen), "\n");
     EXPECT_EQ(leesBytes(doel), "oud");
     wxArrayString bestanden;
-    wxDir::GetAllFiles(map, &bestanden, "CMakeLists.txt*", wxDIR_FILES | wxDIR_HIDDEN);
+    wxDir::GetAllFiles(thuis, &bestanden, "CMakeLists.txt*", wxDIR_FILES | wxDIR_HIDDEN);
     EXPECT_EQ(bestanden.size(), 1u);
     EXPECT_EQ(v.uitvoerTekst->GetValue(), tekst);
-
-    // cancelling the dialog touches nothing
-    wxTEST_DIALOG(klik(wxID_SAVE), wxExpectModal<wxFileDialog>("", wxID_CANCEL));
+    wxTEST_DIALOG(klik(wxID_SAVE), wxExpectModal<wxFileDialog>("", wxID_CANCEL)); // touches nothing
     EXPECT_EQ(leesBytes(doel), "oud");
 }
 
@@ -301,7 +247,7 @@ TEST_F(Uitvoer, ExecuteShowsWhatTheCommandLineProgramPrintsForTheSameState)
     std::mt19937 kans(20201123);
     for (const wxString& map : mappen)
         for (std::size_t i = 0; i < 2; ++i)
-            maakBestand(maakMap(map) + "/" + map.AfterLast('/') + namen[kans() % namen.size()]);
+            maakBestand(map + "/" + map.AfterLast('/') + namen[kans() % namen.size()]);
     start();
     KlavermolVenster& v = venster();
     const char* const soorten[] = {"project", "library", "include"};
@@ -376,7 +322,7 @@ TEST_F(Uitvoer, TheSavedLibraryAndItsProjectBuildAndRunInCMake)
     klikOp(v.FindWindow(wxID_ADD));
     klikOp(v.FindWindow(wxID_APPLY));
     wxTEST_DIALOG(klikOp(v.FindWindow(wxID_SAVE)),
-                  BewaarAls(lib + "/CMakeLists.txt", "TXT files (*.txt)|*.txt", lib, "CMakeLists.txt"));
+                  bewaarAls(lib + "/CMakeLists.txt", lib, "CMakeLists.txt"));
 
     kiesRij(v.uitvoerSoortKeuze, 0);
     typIn(v.projektLibIncludeNaam, "app");
@@ -385,10 +331,10 @@ TEST_F(Uitvoer, TheSavedLibraryAndItsProjectBuildAndRunInCMake)
     typIn(v.outputDirPicker->GetTextCtrl(), app);
     klikOp(v.FindWindow(wxID_ADD));
     typIn(v.vindCMakeSubDir->GetTextCtrl(), lib + "/CMakeLists.txt");
-    wxTEST_DIALOG(klikOp(v.FindWindow(VoegToeCMakeSubDirID)), GeefNaam("zlib"));
+    wxTEST_DIALOG(klikOp(v.FindWindow(VoegToeCMakeSubDirID)), geefNaam("zlib"));
     klikOp(v.FindWindow(wxID_APPLY));
     wxTEST_DIALOG(klikOp(v.FindWindow(wxID_SAVE)),
-                  BewaarAls(app + "/CMakeLists.txt", "TXT files (*.txt)|*.txt", app, "CMakeLists.txt"));
+                  bewaarAls(app + "/CMakeLists.txt", app, "CMakeLists.txt"));
 
     const std::string b = metQuotes(thuis + "/b");
     const std::string bouw = "cmake -S " + metQuotes(app) + " -B " + b + " >/dev/null && cmake --build " + b

@@ -3,6 +3,7 @@
 #include "programma.h"
 
 #include <algorithm>
+#include <map>
 
 #include <wx/bmpbuttn.h>
 #include <wx/checkbox.h>
@@ -52,18 +53,16 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
         {v.GetStatusBar()->GetStatusText(0), "Welkom bij Klavermol !!"},
         {v.GetStatusBar()->GetStatusText(1), "Current filter searches for:"},
         {v.selekteerAllesKnop->GetLabel(), "Select all"},
-        {menu->GetMenuLabelText(0), "General"},
-        {menu->GetMenuLabelText(1), "Navigation"},
-        {menu->GetMenuLabelText(2), "Options"},
+        {menu->GetMenuLabelText(0) + "|" + menu->GetMenuLabelText(1) + "|" + menu->GetMenuLabelText(2),
+         "General|Navigation|Options"},
         {menu->FindItem(wxID_PREFERENCES)->GetItemLabel(), "Preferences\tCtrl+,"},
         {menu->FindItem(wxID_HOME)->GetItemLabel(), "Go home\tCtrl+h"},
         {menu->FindItem(wxID_MORE)->GetItemLabel(), "Go somewhere else\tCtrl+g"},
         {menu->FindItem(ZetAlsUitvoerID)->GetItemLabel(), "Set the current directory as the output dir\tF1"},
         {menu->FindItem(AutoZetUitvoerDirID)->GetHelp(), "Automatically set output dir from Source top dir"},
         {menu->FindItem(VoegSBestandenToeID)->GetItemLabel(), "Include ASM Files in list\tF6"},
-        {v.selektieBoek->GetPageText(0), "Source Files"},
-        {v.selektieBoek->GetPageText(1), "Libraries"},
-        {v.selektieBoek->GetPageText(2), "Include files"},
+        {v.selektieBoek->GetPageText(0) + "|" + v.selektieBoek->GetPageText(1) + "|" + v.selektieBoek->GetPageText(2),
+         "Source Files|Libraries|Include files"},
         {v.FindWindow(wxID_HOME)->GetToolTipText(), "Go to your home directory"},
         {v.bestandSelektieLijst->GetToolTipText(), "These entries (when checked) will be included in the CMake file."},
     };
@@ -72,19 +71,13 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
     EXPECT_EQ(menu->GetMenuCount(), 3u);
     EXPECT_EQ(v.selektieBoek->GetPageCount(), 3u);
 
-    // the images were found
+    // the images were found; every picture is drawn from its file at its own
+    // size: see-through at the corner and solid over a good part of its square
     EXPECT_TRUE(v.GetIcon().IsOk());
     EXPECT_TRUE(menu->FindItem(ZetTaalID)->GetBitmap().IsOk());
-    for (int id : std::initializer_list<int>{wxID_HOME, VorigeLokatieID, wxID_BACKWARD, wxID_FORWARD, wxID_ADD, VoegToeCMakeSubDirID,
-                   VoegToeCMakeIncludeID, wxID_APPLY})
+    for (int id : std::initializer_list<int>{wxID_HOME, VorigeLokatieID, wxID_BACKWARD, wxID_FORWARD, wxID_ADD,
+                                            VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, wxID_APPLY})
         EXPECT_TRUE(static_cast<wxBitmapButton*>(v.FindWindow(id))->GetBitmap().IsOk()) << id;
-}
-
-// Every picture is drawn from its file at its own size: see-through at the
-// corner and solid over a good part of its square.
-TEST_F(Venster, EveryPictureIsDrawnAtItsOwnSize)
-{
-    start();
     const wxString p = "../../../grafisch/ikonen/", q = p + "32x32/icons8-";
     const std::pair<wxString, int> beelden[] = {
         {q + "home.png", 32}, {q + "time_machine.png", 32}, {q + "circled_left.png", 32},
@@ -93,7 +86,7 @@ TEST_F(Venster, EveryPictureIsDrawnAtItsOwnSize)
         {"ikoon/Klavermol.jpg", 32}, {q + "customer_support.png", 32}, {q + "project_setup.png", 32},
         {q + "books.png", 32}, {q + "circuit.png", 32}};
     for (const auto& [naam, maat] : beelden) {
-        const wxImage beeld = venster().GetBitmapResource(naam).GetBitmap(wxDefaultSize).ConvertToImage();
+        const wxImage beeld = v.GetBitmapResource(naam).GetBitmap(wxDefaultSize).ConvertToImage();
         ASSERT_TRUE(beeld.IsOk() && beeld.HasAlpha() && beeld.GetSize() == wxSize(maat, maat)) << naam;
         const unsigned char* alfa = beeld.GetAlpha();
         const auto dekkend = std::count_if(alfa, alfa + maat * maat, [](int a) { return a > 200; });
@@ -101,35 +94,34 @@ TEST_F(Venster, EveryPictureIsDrawnAtItsOwnSize)
     }
 }
 
-TEST_F(Venster, APreWrittenStoreIsRestoredIntoEveryControl)
+// A pre-written store is restored into every control and written back as it
+// was at exit.
+TEST_F(Venster, TheStoreIsRestoredIntoEveryControlAndWrittenBackInFull)
 {
-    const wxString bron = maakMap("bron");
-    const wxString uit = maakMap("uit");
-    maakBestand("bron/lib/CMakeLists.txt");
-    maakBestand("bron/extra.cmake");
-    schrijfInstellingen("[Configuratie]\n"
-                        "DirPad=" + bron.ToStdString() + "\n"
-                        "UitvoerDirPad=" + uit.ToStdString() + "\n"
-                        "Projektnaam=Motor\nProjektsoort=2\nProjekttype=1\nBiebtype=2\n"
-                        "BestandNaamTekst=Motor.cmake\nVoegToeMethode=2\n"
-                        "CMakeSubDirPad=" + bron.ToStdString() + "/lib/CMakeLists.txt\n"
-                        "CMakeIncludeDirPad=" + bron.ToStdString() + "/extra.cmake\n"
-                        "AutoDirToewijzing=0\n"
-                        "VoegCBestandenToe=1\nVoegCPPBestandenToe=0\nVoegHBestandenToe=1\nVoegSBestandenToe=1\n"
-                        "UitsluitTerm=test\nfile1=/a\nfile2=/b\n");
+    const wxString bron = maakMap("bron"), uit = maakMap("uit");
+    const std::pair<const char*, wxString> store[] = {
+        {"DirPad", bron}, {"UitvoerDirPad", uit}, {"Projektnaam", "Motor met spatie"}, {"Projektsoort", "2"},
+        {"Projekttype", "1"}, {"Biebtype", "2"}, {"BestandNaamTekst", "Motor.cmake"}, {"VoegToeMethode", "2"},
+        {"CMakeSubDirPad", maakBestand("bron/lib/CMakeLists.txt")},
+        {"CMakeIncludeDirPad", maakBestand("bron/extra.cmake")}, {"AutoDirToewijzing", "0"},
+        {"VoegCBestandenToe", "1"}, {"VoegCPPBestandenToe", "0"}, {"VoegHBestandenToe", "1"},
+        {"VoegSBestandenToe", "1"}, {"UitsluitTerm", "test"}, {"file1", "/a"}, {"file2", "/b"}};
+    std::string tekst = "[Configuratie]\n";
+    for (const auto& [sleutel, waarde] : store)
+        tekst += std::string(sleutel) + "=" + waarde.utf8_string() + "\n";
+    schrijfInstellingen(tekst);
     start();
     KlavermolVenster& v = venster();
     EXPECT_EQ(v.vindBestandenInDirs->GetPath(), bron);
     EXPECT_EQ(v.outputDirPicker->GetPath(), uit); // the automatic output directory is off
-    EXPECT_EQ(v.projektLibIncludeNaam->GetValue(), "Motor");
+    EXPECT_EQ(v.projektLibIncludeNaam->GetValue(), "Motor met spatie");
     EXPECT_EQ(v.uitvoerSoortKeuze->GetSelection(), 2);
     EXPECT_EQ(v.naamKader->GetLabel(), "Include name");
     EXPECT_EQ(v.cmakeProjektKeuze->GetSelection(), 1);
     EXPECT_EQ(v.cmakeBiebKeuze->GetSelection(), 2);
     EXPECT_EQ(v.bestandNaamTekst->GetValue(), "Motor.cmake");
     EXPECT_EQ(v.voegToeModeKeuze->GetSelection(), 2);
-    EXPECT_TRUE(v.subDirHeeftCMakeLists);
-    EXPECT_TRUE(v.includeIsCMake);
+    EXPECT_TRUE(v.subDirHeeftCMakeLists && v.includeIsCMake);
     EXPECT_FALSE(v.GetMenuBar()->IsChecked(AutoZetUitvoerDirID));
     EXPECT_TRUE(v.GetMenuBar()->IsChecked(VoegHBestandenToeID));
     EXPECT_FALSE(v.GetMenuBar()->IsChecked(VoegCPPBestandenToeID));
@@ -137,65 +129,54 @@ TEST_F(Venster, APreWrittenStoreIsRestoredIntoEveryControl)
     EXPECT_EQ(v.uitsluitTerm->GetValue(), "test");
     ASSERT_EQ(v.recenteLokaties.GetCount(), 2u);
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), "/a");
-}
 
-TEST_F(Venster, TheStateIsWrittenBackInFullAtExit)
-{
-    start();
-    KlavermolVenster& v = venster();
-    const wxString bron = maakMap("bron");
-    v.vindBestandenInDirs->SetPath(bron);
-    v.outputDirPicker->SetPath(bron);
-    v.projektLibIncludeNaam->ChangeValue("Naam met spatie");
+    // what the controls hold at exit is written, the rest as it was read
+    std::map<std::string, wxString> weg(std::begin(store), std::end(store));
+    v.vindBestandenInDirs->SetPath(weg["DirPad"] = uit);
+    v.outputDirPicker->SetPath(weg["UitvoerDirPad"] = bron);
+    v.projektLibIncludeNaam->ChangeValue(weg["Projektnaam"] = "Naam");
     v.uitvoerSoortKeuze->SetSelection(1);
-    v.cmakeProjektKeuze->SetSelection(1);
+    v.cmakeProjektKeuze->SetSelection(0);
     v.cmakeBiebKeuze->SetSelection(1);
-    v.bestandNaamTekst->ChangeValue("x.txt");
+    v.bestandNaamTekst->ChangeValue(weg["BestandNaamTekst"] = "x.txt");
     v.voegToeModeKeuze->SetSelection(1);
-    v.GetMenuBar()->Check(AutoZetUitvoerDirID, false);
-    v.voegSBestandenToe = true;
-    v.uitsluitTerm->ChangeValue("");
-    v.recenteLokaties.AddFileToHistory("/oud");
+    v.GetMenuBar()->Check(AutoZetUitvoerDirID, true);
+    v.voegCPPBestandenToe = true;
+    v.voegSBestandenToe = false;
+    v.uitsluitTerm->ChangeValue(weg["UitsluitTerm"] = ""); // an empty term is written as such
     v.recenteLokaties.AddFileToHistory("/nieuw");
+    for (const char* k : {"Projektsoort", "Biebtype", "VoegToeMethode", "AutoDirToewijzing", "VoegCPPBestandenToe"})
+        weg[k] = "1";
+    weg["Projekttype"] = weg["VoegSBestandenToe"] = "0";
+    weg["file1"] = "/nieuw", weg["file2"] = "/a", weg["file3"] = "/b";
     stop();
 
     auto config = leesInstellingen();
     config->SetPath("/Configuratie");
-    const std::pair<const char*, wxString> verwacht[] = {
-        {"DirPad", bron}, {"UitvoerDirPad", bron}, {"Projektnaam", "Naam met spatie"}, {"Projektsoort", "1"},
-        {"Projekttype", "1"}, {"Biebtype", "1"}, {"BestandNaamTekst", "x.txt"}, {"VoegToeMethode", "1"},
-        {"CMakeSubDirPad", thuis}, {"CMakeIncludeDirPad", thuis}, {"AutoDirToewijzing", "0"},
-        {"VoegCBestandenToe", "0"}, {"VoegSBestandenToe", "1"}, {"UitsluitTerm", ""}, {"file1", "/nieuw"},
-        {"file2", "/oud"},
-    };
-    for (const auto& [sleutel, waarde] : verwacht)
+    for (const auto& [sleutel, waarde] : weg)
         EXPECT_EQ(config->Read(sleutel, "missing"), waarde) << sleutel;
 }
 
-// Per output kind: which of the kind-bound controls and menu items are on,
-// with a sub-directory CMakeLists.txt and an include file chosen.
-TEST_F(Venster, EnablingFollowsTheOutputKind)
+// Per output kind, with a sub-directory CMakeLists.txt and an include file
+// chosen, which kind-bound controls and menu items are on; then the lists, the
+// probe and the histories.
+TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
 {
     start();
     KlavermolVenster& v = venster();
-    const struct
-    {
-        int soort;
-        bool projekt, bieb, naam, subDir, f1f2;
-    } regels[] = {{0, true, false, false, true, false}, {1, false, true, false, false, true},
-                  {2, false, false, true, true, true}};
-    for (const auto& r : regels) {
-        v.uitvoerSoortKeuze->SetSelection(r.soort);
+    // project type, library type, file name, sub-directory picker and Add,
+    // include Add (follows the probe, whatever the kind), then F1 and F2
+    const int ids[] = {CMakeProjektKeuzeID, CMakeBiebKeuzeID, BestandNaamTekstID, VindCMakeSubDirID,
+                       VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, ZetAlsUitvoerID, AutoZetUitvoerDirID};
+    const char* const verwacht[] = {"10011000", "01000111", "00111111"};
+    for (int soort = 0; soort < 3; ++soort) {
+        v.uitvoerSoortKeuze->SetSelection(soort);
         v.subDirHeeftCMakeLists = true;
-        v.includeIsCMake = r.soort != 0;
-        EXPECT_EQ(aan(CMakeProjektKeuzeID), r.projekt) << r.soort;
-        EXPECT_EQ(aan(CMakeBiebKeuzeID), r.bieb) << r.soort;
-        EXPECT_EQ(aan(BestandNaamTekstID), r.naam) << r.soort;
-        EXPECT_EQ(aan(VindCMakeSubDirID), r.subDir) << r.soort;
-        EXPECT_EQ(aan(VoegToeCMakeSubDirID), r.subDir) << r.soort;
-        EXPECT_EQ(aan(VoegToeCMakeIncludeID), r.soort != 0) << r.soort; // whatever the kind
-        EXPECT_EQ(menuAan(ZetAlsUitvoerID), r.f1f2) << r.soort;
-        EXPECT_EQ(menuAan(AutoZetUitvoerDirID), r.f1f2) << r.soort;
+        v.includeIsCMake = soort != 0;
+        std::string gezien;
+        for (int i = 0; i < 8; ++i)
+            gezien += (i < 6 ? aan(ids[i]) : menuAan(ids[i])) ? '1' : '0';
+        EXPECT_EQ(gezien, verwacht[soort]) << "kind " << soort;
     }
     v.subDirHeeftCMakeLists = false;
     EXPECT_FALSE(aan(VoegToeCMakeSubDirID));
@@ -209,12 +190,8 @@ TEST_F(Venster, EnablingFollowsTheOutputKind)
     v.vindBestandenInDirs->SetPath(bron);
     opdracht(wxEVT_MENU, ZetAlsUitvoerID);
     EXPECT_EQ(v.outputDirPicker->GetPath(), bron);
-}
 
-TEST_F(Venster, EnablingFollowsTheListsTheProbeAndTheHistories)
-{
-    start();
-    KlavermolVenster& v = venster();
+    // the lists, the probe and the histories
     v.biebLijst->Append("/lib");
     v.includeLijst->Append("/x.cmake");
     EXPECT_FALSE(aan(wxID_APPLY)); // only the source list counts

@@ -25,12 +25,10 @@ using Start = ProgrammaTest;
 
 // A size no window can have gives the default: 800 x 600 or what the
 // contents need, centred, on the screen, every control wholly inside; the
-// system language, the splash over the registered window; the size is
-// stored at the end.
+// splash over the registered window; the size is stored at the end.
 TEST_F(Start, FirstStartWithNoUsableStore)
 {
     schrijfInstellingen("[Gebruikersinstellingen/Venster]\nGrootteX=-99999\nGrootteY=50\n");
-    zetTaal(-1); // no language in the store: the system language is taken
     start();
     const wxSize inhoud = venster().GetSizer()->GetMinSize();
     EXPECT_EQ(venster().GetClientSize(), wxSize(std::max(800, inhoud.x), std::max(600, inhoud.y)));
@@ -52,7 +50,6 @@ TEST_F(Start, FirstStartWithNoUsableStore)
         }
     };
     binnenIn(&venster());
-    EXPECT_EQ(app().geefTaal(), wxLocale::GetSystemLanguage());
     EXPECT_TRUE(app().geefToonHulpToolTips());
     EXPECT_EQ(app().geefLaatsteDataPad(), wxStandardPaths::Get().GetDocumentsDir());
 
@@ -74,7 +71,6 @@ TEST_F(Start, FirstStartWithNoUsableStore)
     auto config = leesInstellingen();
     EXPECT_TRUE(heeftVorm(config->Read("/Statistiek/StartDatum") + " " + config->Read("/Statistiek/StartTijd"),
                           "%Y-%m-%d %H:%M:%S"));
-    EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Encoding", -1), wxLocale::GetSystemLanguage());
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteX", 0), grootte.x);
     EXPECT_EQ(config->ReadLong("/Gebruikersinstellingen/Venster/GrootteY", 0), grootte.y);
     EXPECT_FALSE(config->HasEntry("/Operationeel/EigenHerstart"));

@@ -145,12 +145,12 @@ TEST_P(TaalStart, LocaleCataloguesAndTexts)
                                               " kort :" + wxLocale::GetLanguageCanonicalName(r.taal)};
     const wxString e = wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath();
     const wxString b = wxFileName(e).GetPath() + "/share/klavermol-gui-tests";
-    if (locale)
+    if (locale) {
         verwacht.push_back("Taalpad (BSD/Solaris/AIX/Linux) toegevoegd.");
-    for (const wxString& pad : {b, b + "/Zelvano/Klavermol/locale", b + "/../Zelvano/Klavermol/locale",
-                                b + "/locale", e + "/../share/Zelvano/Klavermol/locale"})
-        if (locale)
+        for (const wxString& pad : {b, b + "/Zelvano/Klavermol/locale", b + "/../Zelvano/Klavermol/locale",
+                                    b + "/locale", e + "/../share/Zelvano/Klavermol/locale"})
             verwacht.push_back("Taalpad toegevoegd : " + pad);
+    }
     for (const char* k : {"Zelvano", "Applikatie (Klavermol)"})
         if (r.katalogi)
             verwacht.push_back(k + (" katalogus voor taal : " + naam) + " met succes toegevoegd.");

@@ -9,13 +9,10 @@
 #include <wx/filepicker.h>
 #include <wx/listbox.h>
 
-#include <stdexcept>
-
 namespace {
 
-// Answers the directory dialog of "Go somewhere else": GTK's chooser hands
-// back its choice only from the screen, so an OK puts the choice where the
-// dialog keeps it.
+// Answers "Go somewhere else": GTK's chooser hands back its choice only from
+// the screen, so an OK puts the choice where the dialog keeps it.
 struct KiesMap : wxDirDialog
 {
     static Antwoord<wxDirDialog> met(const wxString& pad)
@@ -47,17 +44,14 @@ protected:
     wxString picker() { return venster().vindBestandenInDirs->GetPath(); }
 };
 
-// With no location Forward reaches the out-of-range error. A, B, C picked:
-// index 3, so the first Back shows C again; Back at index 0 stays there.
-// Each step sets the picker and probes without recording the location.
+// A, B, C picked: index 3, so the first Back shows C again; Back at index 0
+// stays there. Each step sets the picker and probes without recording.
 TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
 {
     const wxString a = maakMap("A"), b = maakMap("B"), c = maakMap("C");
     maakBestand("A/x.c");
     start();
     KlavermolVenster& v = venster();
-    wxCommandEvent e;
-    EXPECT_THROW(v.OnFORWARDClick(e), std::out_of_range);
     v.voegCBestandenToe = true;
     v.voegToeModeKeuze->SetSelection(1);
     for (const wxString& map : {a, b, c})
@@ -69,11 +63,8 @@ TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
         EXPECT_EQ(picker(), map);
     }
     EXPECT_TRUE(v.heeftCBestanden);
-    EXPECT_TRUE(aan(wxID_ADD));
-    EXPECT_FALSE(aan(wxID_BACKWARD));
-    EXPECT_TRUE(aan(wxID_FORWARD));
     wxCommandEvent terug(wxEVT_BUTTON, wxID_BACKWARD);
-    v.OnBACKWARDClick(terug); // at index 0 it stays there
+    v.OnBACKWARDClick(terug); // the button is off at index 0; the handler stays there
     EXPECT_EQ(picker(), a);
     klik(wxID_FORWARD);
     EXPECT_EQ(picker(), b);

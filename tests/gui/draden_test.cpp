@@ -9,7 +9,6 @@
 #include <wx/tooltip.h>
 #include <wx/uiaction.h>
 
-#include <chrono>
 #include <thread>
 
 namespace {
@@ -17,19 +16,8 @@ namespace {
 class Draden : public ProgrammaTest
 {
 protected:
-    // Lets the event loop run until `klaar` holds; false when it never does.
-    bool wachtTot(const std::function<bool()>& klaar)
-    {
-        const auto grens = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-        while (!klaar() && std::chrono::steady_clock::now() < grens) {
-            wxTheApp->ProcessPendingEvents();
-            wxTheApp->Yield(true);
-        }
-        return klaar();
-    }
-
     // A real click (or double click) at `plek` in `w`, the pointer coming in from outside.
-    void klikOp(wxWindow* w, const wxPoint& plek, bool dubbel = false)
+    static void muisOp(wxWindow* w, const wxPoint& plek, bool dubbel = false)
     {
         wxUIActionSimulator muis;
         muis.MouseMove(0, 0);
@@ -37,21 +25,15 @@ protected:
         dubbel ? muis.MouseDblClick() : muis.MouseClick();
     }
 
-    void klikOp(wxWindow* w) { klikOp(w, wxPoint(w->GetClientSize().x / 2, w->GetClientSize().y / 2)); }
-
-    // The program with nothing over its window: the splash out of sight.
+    // The program with every button in sight and no tip over them.
     void startVrij()
     {
         start();
-        if (wxSplashScreen* splash = app().geefSplash())
-            splash->Hide();
-        wxToolTip::Enable(false); // a list's tip would cover the buttons below it
-        venster().SetSize(wxGetDisplaySize()); // every button in sight
-        ASSERT_TRUE(wachtTot([&] { return venster().GetSize().y > 700; }));
-        klikOp(venster().GetStatusBar()); // as the user does: a click makes the window the active one
-        ASSERT_TRUE(wachtTot([&] { return venster().IsActive(); }));
+        klikOp(venster().GetStatusBar(), wxEVT_LEFT_UP); // the window takes the keyboard
+        wxToolTip::Enable(false);
+        venster().SetSize(wxGetDisplaySize());
+        wachtTot([&] { return venster().GetSize().y > 700; }, "the full size");
     }
-
 };
 
 // The slow probe of the first pick ends only when stopped, and then claims
@@ -103,11 +85,12 @@ TEST_F(Draden, CancelledAddLeavesEverythingAsItWas)
     };
     wxCommandEvent voegToe(wxEVT_BUTTON, wxID_ADD); // not awaited: it ends only when cancelled
     v.ProcessWindowEvent(voegToe);
-    ASSERT_TRUE(wachtTot([&] { return v.voortgangDialoog != nullptr && v.voortgangDialoog->IsShownOnScreen(); }));
+    wachtTot([&] { return v.voortgangDialoog != nullptr && v.voortgangDialoog->IsShownOnScreen(); }, "the progress");
     EXPECT_TRUE(v.voortgangDialoog->GetMessage().StartsWith("7 directories and 0 files so far"))
         << v.voortgangDialoog->GetMessage();
-    klikOp(v.voortgangDialoog->FindWindow(wxID_CANCEL));
-    ASSERT_TRUE(wachtTot([&] { return !v.isBezig(); }));
+    const wxWindow* annuleer = v.voortgangDialoog->FindWindow(wxID_CANCEL);
+    muisOp(v.voortgangDialoog, annuleer->GetPosition() + annuleer->GetSize() / 2);
+    wachtTot([&] { return !v.isBezig(); }, "the cancelled walk");
     EXPECT_EQ(v.voortgangDialoog, nullptr);
     EXPECT_EQ(v.bestandSelektieLijst->GetItemCount(), 1);
     EXPECT_EQ(v.GetStatusBar()->GetStatusText(0), status);
@@ -124,35 +107,34 @@ TEST_F(Draden, TheSourceListActsOnTheStore)
     v.voegBronnenToe(wxSplit("/p/a/x.c,/p/a/y.h,/p/a/sub/z.c,/p/b/x.c", ','), overgeslagen);
     BronLijstWeergave* lijst = v.bestandSelektieLijst;
     verwerk();
-    const auto rij = [&](long i) {
-        wxRect vak;
-        lijst->GetItemRect(i, vak);
-        return vak;
-    };
     const auto vinkjes = [&] { // as the view shows them, which must be as the store has them
         wxString s;
         for (long i = 0; i < lijst->GetItemCount(); ++i)
             s += lijst->IsItemChecked(i) == v.bronSelektie.isAangevinkt(i) ? lijst->IsItemChecked(i) ? '1' : '0' : '?';
         return s;
     };
+    const auto wordt = [&](const char* verwacht) {
+        wachtTot([&] { return vinkjes() == verwacht; }, verwacht);
+    };
+    const auto opRij = [&](long i, bool vakje, bool dubbel = false) {
+        wxRect r;
+        lijst->GetItemRect(i, r);
+        muisOp(lijst, wxPoint(vakje ? r.x + r.height / 2 + 2 : r.GetRight() - 10, r.y + r.height / 2), dubbel);
+    };
 
-    klikOp(lijst, wxPoint(rij(1).x + rij(1).height / 2 + 2, rij(1).GetTop() + rij(1).height / 2)); // y.h's box
-    ASSERT_TRUE(wachtTot([&] { return vinkjes() == "1011"; })) << vinkjes();
-    klikOp(lijst, wxPoint(rij(1).GetRight() - 10, rij(1).GetTop() + rij(1).height / 2));
-    wxUIActionSimulator toets;
-    toets.Char(' '); // the current row: y.h
-    ASSERT_TRUE(wachtTot([&] { return vinkjes() == "1111"; })) << vinkjes();
-
-    // the double-clicked entry's directory flips, each entry on its own
-    klikOp(lijst, wxPoint(rij(0).GetRight() - 10, rij(0).GetTop() + rij(0).height / 2), true);
-    ASSERT_TRUE(wachtTot([&] { return vinkjes() == "0011"; })) << vinkjes();
-
-    klikOp(v.selekteerAllesKnop);
-    ASSERT_TRUE(wachtTot([&] { return vinkjes() == "1111"; })) << vinkjes();
-    klikOp(v.selekteerAllesKnop);
-    ASSERT_TRUE(wachtTot([&] { return vinkjes() == "0000"; })) << vinkjes();
+    opRij(1, true); // y.h's box
+    wordt("1011");
+    opRij(1, false);
+    wxUIActionSimulator().Char(' '); // the current row: y.h
+    wordt("1111");
+    opRij(0, false, true); // the double-clicked entry's directory flips, each entry on its own
+    wordt("0011");
+    klikOp(v.selekteerAllesKnop, wxEVT_TOGGLEBUTTON);
+    wordt("1111");
+    klikOp(v.selekteerAllesKnop, wxEVT_TOGGLEBUTTON);
+    wordt("0000");
     klikOp(v.FindWindow(wxID_CLEAR));
-    ASSERT_TRUE(wachtTot([&] { return v.bronSelektie.aantal() == 0; }));
+    EXPECT_EQ(v.bronSelektie.aantal(), 0u);
     EXPECT_EQ(lijst->GetItemCount(), 0);
 }
 

@@ -2,8 +2,8 @@
 # Installs the build into a temporary prefix and checks the installation:
 # the files are where the program looks for them, the desktop entry and the
 # metainfo validate, and the installed program starts in German and Dutch
-# with its catalogues from the prefix. Needs a display (ctest runs it under
-# the one ./test provides).
+# with its catalogues from the prefix. Needs a display of its own (ctest runs
+# it through tools/eigenscherm.sh).
 set -euo pipefail
 bouw="$1"
 prefix=$(mktemp -d /tmp/klavermol-installatie-XXXXXX)

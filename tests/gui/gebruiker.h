@@ -1,8 +1,6 @@
 #pragma once
-// A user working a modal dialog that a wxTEST_DIALOG expectation holds.
-// Pointer events would reach other test processes' windows on the shared
-// display, so a button gets the command event a click sends, and only while
-// it is enabled.
+// A user working a modal dialog that a wxTEST_DIALOG expectation holds: a
+// button gets the command event a click sends, and only while it is enabled.
 #include <wx/dialog.h>
 
 #include <functional>

@@ -1,14 +1,12 @@
 #include "programma.h"
 
-#include <wx/apptrait.h>
-
 #include <wx/app.h>
+#include <wx/apptrait.h>
 #include <wx/choice.h>
 #include <wx/statusbr.h>
 #include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/filepicker.h>
-#include <wx/dialog.h>
 #include <wx/init.h>
 #include <wx/modalhook.h>
 #include <wx/time.h>
@@ -18,8 +16,6 @@
 #include <gtk/gtk.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -40,22 +36,16 @@ void assertHandler(const wxString& bestand, int regel, const wxString& functie, 
         << "wx assertion in " << functie << ": " << conditie << " " << melding;
 }
 
+std::vector<LogRegel> alleLog;
+
 class OpnameLog : public wxLog
 {
-public:
-    explicit OpnameLog(std::vector<LogRegel>& regels) : regels(regels) {}
-
 protected:
     void DoLogRecord(wxLogLevel niveau, const wxString& tekst, const wxLogRecordInfo&) override
     {
-        regels.push_back({niveau, tekst});
+        alleLog.push_back({niveau, tekst});
     }
-
-private:
-    std::vector<LogRegel>& regels;
 };
-
-std::vector<LogRegel> alleLog;
 
 // Any modal dialog that a test did not announce with wxTEST_DIALOG is a
 // failure, and is closed at once instead of waiting for a user.
@@ -139,7 +129,7 @@ void ProgrammaTest::start()
     if (!inhoud.empty())
         std::ofstream(instellingenPad().ToStdString()) << inhoud;
 
-    wxLog::SetActiveTarget(new OpnameLog(alleLog));
+    wxLog::SetActiveTarget(new OpnameLog);
     wxLog::SetLogLevel(wxLOG_Max);
     wxLog::SetVerbose(true);
 
@@ -153,17 +143,12 @@ void ProgrammaTest::start()
     static int argc = 1;
     static char naam[] = "klavermol";
     static char* argv[] = {naam, nullptr};
-    if (!wxEntryStart(argc, argv)) {
-        // No display to be had: nothing of the program may run on.
-        std::fprintf(stderr, "the display could not be opened\n");
-        std::fflush(nullptr);
-        std::_Exit(1);
-    }
+    ASSERT_TRUE(wxEntryStart(argc, argv)) << "the display could not be opened";
     gestart = true;
     lus.reset(wxTheApp->GetTraits()->CreateEventLoop());
     wxEventLoopBase::SetActive(lus.get());
     // the toolkit's initialisation puts its own log target in place
-    wxLog::SetActiveTarget(new OpnameLog(alleLog));
+    wxLog::SetActiveTarget(new OpnameLog);
     ASSERT_TRUE(wxTheApp->CallOnInit());
     verwerk();
 }
@@ -190,16 +175,6 @@ std::unique_ptr<wxFileConfig> ProgrammaTest::leesInstellingen() const
     auto config = std::make_unique<wxFileConfig>(stroom);
     config->SetExpandEnvVars(false);
     return config;
-}
-
-Klavermol& ProgrammaTest::app() const
-{
-    return wxGetApp();
-}
-
-KlavermolVenster& ProgrammaTest::venster() const
-{
-    return *app().geefVenster();
 }
 
 void ProgrammaTest::wachtOpVenster()
@@ -347,23 +322,22 @@ int ProgrammaTest::aantalAsserts(const std::string& conditie) const
 std::vector<LogRegel> ProgrammaTest::logRegels(wxLogLevel niveau) const
 {
     std::vector<LogRegel> uit;
-    for (const LogRegel& r : alleLog)
-        if (r.niveau == niveau)
-            uit.push_back(r);
+    std::copy_if(alleLog.begin(), alleLog.end(), std::back_inserter(uit),
+                 [&](const LogRegel& r) { return r.niveau == niveau; });
     return uit;
 }
 
 bool ProgrammaTest::heeftLog(wxLogLevel niveau, const wxString& tekst) const
 {
-    return std::any_of(alleLog.begin(), alleLog.end(),
-                       [&](const LogRegel& r) { return r.niveau == niveau && r.tekst == tekst; });
+    const std::vector<wxString> regels = logMet(niveau, tekst);
+    return std::count(regels.begin(), regels.end(), tekst) > 0;
 }
 
 std::vector<wxString> ProgrammaTest::logMet(wxLogLevel niveau, const wxString& begin) const
 {
     std::vector<wxString> uit;
-    for (const LogRegel& r : alleLog)
-        if (r.niveau == niveau && r.tekst.StartsWith(begin))
+    for (const LogRegel& r : logRegels(niveau))
+        if (r.tekst.StartsWith(begin))
             uit.push_back(r.tekst);
     return uit;
 }

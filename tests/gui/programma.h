@@ -30,33 +30,27 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    // Writes the settings file the program will find (before start()).
+    // Before start(): the settings file the program finds, its language (English).
     void schrijfInstellingen(const std::string& inhoud) { instellingen = inhoud; }
-    // Pins the interface language in the settings file (default English).
     void zetTaal(int taal) { eersteTaal = taal; }
 
     void start();   // constructs the application object and runs OnInit
     void stop();    // closes the program in order: window, then application
 
-    // The settings file as the program left it.
-    std::unique_ptr<wxFileConfig> leesInstellingen() const;
+    std::unique_ptr<wxFileConfig> leesInstellingen() const; // as the program left it
     wxString instellingenPad() const { return thuis + "/.Klavermol"; }
 
-    Klavermol& app() const;
-    KlavermolVenster& venster() const;
+    Klavermol& app() const { return wxGetApp(); }
+    KlavermolVenster& venster() const { return *app().geefVenster(); }
 
-    // Lets pending events and idle processing run; refreshes update-UI state.
-    void verwerk();
-    // Until the window's probe or Add on its workers has been applied.
-    void wachtOpVenster();
+    void verwerk();        // pending events and idle time; update-UI refreshed
+    void wachtOpVenster(); // until the window's workers have been applied
 
-    // Sends a command event (button, menu, check box...) to the main window.
+    // A command event (button, menu, check box...) sent to the main window.
     void opdracht(wxEventType soort, int id, int waarde = 0);
     void klik(int id) { opdracht(wxEVT_BUTTON, id); }
-    // Whether the window's control `id` is enabled after an update-UI refresh.
-    bool aan(int id);
-    // Picks `pad` in the search-location picker, as the user does.
-    void kiesZoekMap(const wxString& pad);
+    bool aan(int id); // control `id` enabled after an update-UI refresh
+    void kiesZoekMap(const wxString& pad); // picked as the picker does
 
     // Runs the event loop until `klaar` holds; waits for events, not for
     // time. What never comes fails the test after half a minute, naming `wat`.
@@ -73,14 +67,13 @@ protected:
     wxString maakMap(const wxString& naam) const;
     wxString maakBestand(const wxString& naam) const;
 
-    // The assertion (by its condition text) that this test expects to see.
+    // An assertion (by its condition text) this test expects to see.
     void verwachtAssert(const std::string& conditie);
     int aantalAsserts(const std::string& conditie) const;
 
     std::vector<LogRegel> logRegels(wxLogLevel niveau) const;
     bool heeftLog(wxLogLevel niveau, const wxString& tekst) const;
-    // The texts logged at `niveau` that start with `begin`, in order.
-    std::vector<wxString> logMet(wxLogLevel niveau, const wxString& begin) const;
+    std::vector<wxString> logMet(wxLogLevel niveau, const wxString& begin) const; // in order
 
     // What the restart seam recorded, in order ("start:<path>", "stop").
     std::vector<std::string> procesStappen;

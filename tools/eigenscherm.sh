@@ -18,4 +18,11 @@ mkfifo "$map/wm"
 exec 4<>"$map/wm"
 setpriv --pdeathsig TERM openbox --sm-disable --startup "sh -c 'echo > $map/wm'" >/dev/null 2>&1 &
 read -r -t 30 -u 4 _
-"$@"
+# As root the command also gets a /tmp of its own (the program keeps its
+# single-instance lock there); the display stays reachable through its
+# abstract socket.
+if [ "$(id -u)" = 0 ]; then
+    unshare --mount --propagation private sh -c 'mount -t tmpfs klavermol /tmp && exec "$@"' sh "$@"
+else
+    "$@"
+fi

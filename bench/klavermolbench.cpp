@@ -220,7 +220,7 @@ int meetUitvoeren(KlavermolVenster& v, const std::string& map, const std::string
     std::printf("files=%u\n", v.bestandSelektieLijst->GetCount());
     print("execute_s", uitvoeren);
     print("max_stall_s", stilstand);
-    std::printf("text_bytes=%zu\n", v.volledigeUitvoer.utf8_str().length());
+    std::printf("text_bytes=%zu\n", v.volledigeUitvoer.size());
     print("save_s", bewaren);
     std::printf("saved_bytes=%llu\n", static_cast<unsigned long long>(wxFileName::GetSize(doel).GetValue()));
     print("cli_s", cliTijd);

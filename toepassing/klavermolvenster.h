@@ -265,8 +265,8 @@ public:
 
     // The whole generated text, which Save writes; the output control shows
     // it, or only its head with a note when it is long.
-    wxString volledigeUitvoer;
-    void zetUitvoer(const wxString& tekst);
+    std::string volledigeUitvoer; // UTF-8, as Save writes it
+    void zetUitvoer(std::string tekst);
 
     // What the workers call to probe and to collect (the core's walk; a
     // test may put a slow stand-in here).
@@ -305,5 +305,5 @@ private:
     AchtergrondWerk uitvoerWerk{*this};
     wxTimer* voortgangKlok = nullptr;
     std::chrono::steady_clock::time_point voortgangBegin;
-    void schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&));
+    void schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, std::string&));
 };

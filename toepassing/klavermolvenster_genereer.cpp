@@ -16,13 +16,6 @@
 #include <algorithm>
 #include <memory>
 
-namespace {
-
-// How much of the text the output control shows: its layout stays short.
-const size_t zichtbareTekens = 128 * 1024;
-
-} // namespace
-
 kern::GeneratorInvoer KlavermolVenster::geefGeneratorInvoer() const
 {
     kern::GeneratorInvoer invoer;
@@ -53,7 +46,7 @@ void KlavermolVenster::OnGenerateCMakeHandler(wxCommandEvent&)
         return;
     }
     wxBusyCursor bezig;
-    zetUitvoer(wxString());
+    zetUitvoer({});
     werklijsten.leeg();
     switch (uitvoerSoortKeuze->GetSelection()) {
     case kern::SoortProjekt: maakProjekt(); break;
@@ -63,54 +56,62 @@ void KlavermolVenster::OnGenerateCMakeHandler(wxCommandEvent&)
     }
 }
 
-void KlavermolVenster::schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, wxString&))
+namespace {
+
+// How much of the text the output control shows: its layout stays short.
+const size_t zichtbareTekens = 128 * 1024;
+
+// The text control lays out all it holds at once: a long text shows its
+// head, whole lines, and a note of what follows.
+wxString geefZichtbaarDeel(const std::string& utf8)
 {
-    // The generator runs on a worker with its own working lists; the window
-    // takes them and the text when it is done.
-    // The worker reads its own copy of the store: a compact block, copied
-    // in one go, that a later Add or Clear cannot change under it.
+    if (utf8.size() <= zichtbareTekens)
+        return wxString::FromUTF8(utf8);
+    const size_t einde = utf8.rfind('\n', zichtbareTekens - 1) + 1;
+    const auto regels = static_cast<unsigned long>(std::count(utf8.begin() + einde, utf8.end(), '\n'));
+    return wxString::FromUTF8(utf8.data(), einde)
+        + wxString::Format(_("[... %lu more lines are not shown here; Save writes the whole text.]"), regels) + "\n";
+}
+
+} // namespace
+
+void KlavermolVenster::schrijfUitvoer(void (*generator)(const kern::GeneratorInvoer&, kern::Werklijsten&, std::string&))
+{
+    // The generator runs on a worker with its own working lists and its own
+    // copy of the store (a compact block, copied in one go, that a later Add
+    // or Clear cannot change under it); the window takes the lists and the
+    // text when it is done.
     auto selektie = std::make_shared<const kern::BronSelektie>(bronSelektie);
     auto invoer = std::make_shared<kern::GeneratorInvoer>(geefGeneratorInvoer());
     invoer->selektie = selektie.get();
     uitvoerWerk.start([this, invoer, selektie, generator](kern::Voortgang&) -> AchtergrondWerk::Afronding {
         auto werk = std::make_shared<kern::Werklijsten>();
-        auto tekst = std::make_shared<wxString>();
+        auto tekst = std::make_shared<std::string>();
         generator(*invoer, *werk, *tekst);
         return [this, werk, tekst] {
             werklijsten = std::move(*werk);
-            zetUitvoer(*tekst);
+            zetUitvoer(std::move(*tekst));
         };
     });
 }
 
-void KlavermolVenster::zetUitvoer(const wxString& tekst)
+void KlavermolVenster::zetUitvoer(std::string tekst)
 {
-    volledigeUitvoer = tekst;
-    if (tekst.length() <= zichtbareTekens) {
-        uitvoerTekst->ChangeValue(tekst);
-        return;
-    }
-    // The text control lays out all it holds at once: a long text shows
-    // its head, whole lines, and a note of what follows.
-    const size_t einde = tekst.rfind('\n', zichtbareTekens - 1) + 1;
-    const unsigned long regels = static_cast<unsigned long>(std::count(tekst.begin() + einde, tekst.end(), '\n'));
-    uitvoerTekst->ChangeValue(
-        tekst.Left(einde)
-        + wxString::Format(_("[... %lu more lines are not shown here; Save writes the whole text.]"), regels)
-        + "\n");
+    volledigeUitvoer = std::move(tekst);
+    uitvoerTekst->ChangeValue(geefZichtbaarDeel(volledigeUitvoer));
 }
 
 void KlavermolVenster::maakProjekt()
 {
-    schrijfUitvoer(kern::maakProjekt);
+    schrijfUitvoer(kern::maakProjektUtf8);
 }
 
 void KlavermolVenster::maakLib()
 {
-    schrijfUitvoer(kern::maakLib);
+    schrijfUitvoer(kern::maakLibUtf8);
 }
 
 void KlavermolVenster::maakInclude()
 {
-    schrijfUitvoer(kern::maakInclude);
+    schrijfUitvoer(kern::maakIncludeUtf8);
 }

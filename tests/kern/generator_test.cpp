@@ -54,40 +54,43 @@ const wxString includeSlot =
 // Each row also through the store, where an unchecked entry is passed by.
 TEST(Bronlijst, GroupsPerDirectoryWithHeadersAndTheOutputDirectory)
 {
-    const struct {
-        const char* uitvoer;
-        std::vector<wxString> bronnen;
-        const char *mappen, *paden, *namen, *includes;
-    } gevallen[] = {
+    const auto naam = [](size_t lengte, char letter) { return "/p/d/" + wxString(letter, lengte - 2) + ".c"; };
+    const wxString a69 = naam(69, 'a'), a70 = naam(70, 'a'), a80 = naam(80, 'a'), c78 = naam(78, 'c'),
+                   c79 = naam(79, 'c'), p0 = "set(SRCS0Path ${SrcPath0})#set(SRCS0 ";
+    const struct { wxString uitvoer; std::vector<wxString> bronnen; wxString mappen, lijsten; } gevallen[] = {
         // a directory met first through a header gets its group with its first source
         {"/p", {"/p/x/a.h", "/p/y/b.c", "/p/x/c.c", "/p/x/d.h"}, "x|y",
-         "set(SRCS0Path ${SrcPath1})|set(SRCS1Path ${SrcPath0})", "set(SRCS0 b.c )|set(SRCS1 c.c )", "${SrcPath0}"},
+         "set(SRCS0Path ${SrcPath1})|set(SRCS1Path ${SrcPath0})#set(SRCS0 b.c )|set(SRCS1 c.c )#${SrcPath0}"},
         // only a lower-case "h" is a header
         {"/p", {"/p/a/x.hpp", "/p/b/y.H", "/p/c/z.h"}, "a|b|c",
-         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})", "set(SRCS0 x.hpp )|set(SRCS1 y.H )", "${SrcPath2}"},
+         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})#set(SRCS0 x.hpp )|set(SRCS1 y.H )#${SrcPath2}"},
         // a source beside the output after "." came in through a header
-        {"/p", {"/p/a.h", "/p/src/b.c", "/p/c.c"}, ".|src", "set(SRCS0Path ${SrcPath1})|",
-         "set(SRCS0 b.c )|list(APPEND SRCS c.c )", "."},
+        {"/p", {"/p/a.h", "/p/src/b.c", "/p/c.c"}, ".|src", "set(SRCS0Path ${SrcPath1})|#set(SRCS0 b.c )|list(APPEND SRCS c.c )#."},
         // with a closing separator the files beside the output take the relative case
-        {"/p/", {"/p/a.c", "/p/a.h"}, "", "set(SRCS0Path ${SrcPath0})", "set(SRCS0 a.c )", "${SrcPath0}"},
+        {"/p/", {"/p/a.c", "/p/a.h"}, "", p0 + "a.c )#${SrcPath0}"},
         // a directory beside the output with the same start is a sibling
         {"/w/p", {"/w/p2/a.c", "/w/p/sub/diep/b.c", "/a.c"}, "../p2|sub/diep|../..",
-         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})|set(SRCS2Path ${SrcPath2})",
-         "set(SRCS0 a.c )|set(SRCS1 b.c )|set(SRCS2 a.c )", ""},
+         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})|set(SRCS2Path ${SrcPath2})"
+         "#set(SRCS0 a.c )|set(SRCS1 b.c )|set(SRCS2 a.c )#"},
         // names CMake reads otherwise go quoted and escaped
-        {"/p", {"/p/s/a\"b.c", "/p/s/c\x7f.c", "/p/s/d e.c"}, "s", "set(SRCS0Path ${SrcPath0})",
-         "set(SRCS0 \"a\\\"b.c\" \"c\x7f.c\" \"d e.c\" )", ""},
+        {"/p", {"/p/s/a\"b.c", "/p/s/c\x7f.c", "/p/s/d e.c"}, "s", p0 + "\"a\\\"b.c\" \"c\x7f.c\" \"d e.c\" )#"},
         // paths the toolkit splits: a file in "/", a "//", a dot-file ".h" (a source)
-        {"/", {"/a.c", "/b.h"}, ".", "", "list(APPEND SRCS a.c )", "."},
-        {"/p", {"/p//s/.h", "/p/s/b.c", "/p/t//c.h"}, "s|t", "set(SRCS0Path ${SrcPath0})", "set(SRCS0 .h b.c )",
-         "${SrcPath1}"},
-        {"/p/~q", {"/p/~q/i/.h", "/p/~q/i/a.h"}, "i", "set(SRCS0Path ${SrcPath0})", "set(SRCS0 .h )", "${SrcPath0}"},
+        {"/", {"/a.c", "/b.h"}, ".", "#list(APPEND SRCS a.c )#."},
+        {"/p", {"/p//s/.h", "/p/s/b.c", "/p/t//c.h"}, "s|t", p0 + ".h b.c )#${SrcPath1}"},
+        {"/p/~q", {"/p/~q/i/.h", "/p/~q/i/a.h"}, "i", p0 + ".h )#${SrcPath0}"},
+        // the break follows the first name added past 80 characters since the start or the last tab (which counts)
+        {"/p", {a69, "/p/d/b.c", "/p/d/c.c"}, "d", p0 + a69.substr(5) + " b.c c.c \n\t)#"},
+        {"/p", {a70, "/p/d/b.c", "/p/d/c.c"}, "d", p0 + a70.substr(5) + " b.c \n\tc.c )#"},
+        {"/p", {a80, "/p/d/b.c", c78, "/p/d/d.c", "/p/d/e.c"}, "d",
+         p0 + a80.substr(5) + " b.c \n\t" + c78.substr(5) + " d.c e.c \n\t)#"},
+        {"/p", {a80, "/p/d/b.c", c79, "/p/d/d.c", "/p/d/e.c"}, "d",
+         p0 + a80.substr(5) + " b.c \n\t" + c79.substr(5) + " d.c \n\te.c )#"},
     };
     for (const auto& g : gevallen) {
         const Uitkomst u = geef(maakInvoer(g.uitvoer, g.bronnen));
         EXPECT_EQ(samen(u.werk.dirLijst), g.mappen);
         EXPECT_EQ(samen(u.werk.groepPaden) + "#" + samen(u.werk.groepNamen) + "#" + samen(u.werk.includeDirs),
-                  wxString(g.paden) + "#" + g.namen + "#" + g.includes) << g.mappen;
+                  g.lijsten) << g.mappen;
         kern::BronSelektie selektie;
         selektie.voegToe("/weg/niet.c");
         selektie.zetAangevinkt(0, false);
@@ -115,29 +118,9 @@ TEST(Bronlijst, ManyDirectoriesKeepTheirNumbersAndTheIncludeListWraps)
     EXPECT_EQ(samen(u.werk.groepPaden), "set(SRCS0Path ${SrcPath12})|set(SRCS1Path ${SrcPath1})");
 }
 
-// The break follows the first name added to a line past 80 characters since
-// its start or its last tab (which counts); "set(SRCS0 " is 10 long.
-TEST(Bronlijst, TheWrapBreaksOnlyPast80FromTheStartOrTheLastTab)
-{
-    const auto naam = [](size_t lengte, char letter) { return wxString(letter, lengte - 2) + ".c"; };
-    const wxString a69 = naam(69, 'a'), a70 = naam(70, 'a'), a80 = naam(80, 'a'), c78 = naam(78, 'c'),
-                   c79 = naam(79, 'c');
-    const struct { std::vector<wxString> namen; wxString regel; } gevallen[] = {
-        {{a69, "b.c", "c.c"}, a69 + " b.c c.c \n\t)"},
-        {{a70, "b.c", "c.c"}, a70 + " b.c \n\tc.c )"},
-        {{a80, "b.c", c78, "d.c", "e.c"}, a80 + " b.c \n\t" + c78 + " d.c e.c \n\t)"},
-        {{a80, "b.c", c79, "d.c", "e.c"}, a80 + " b.c \n\t" + c79 + " d.c \n\te.c )"},
-    };
-    for (const auto& g : gevallen) {
-        kern::GeneratorInvoer in = maakInvoer("/p");
-        for (const wxString& n : g.namen)
-            in.bronnen.Add("/p/d/" + n);
-        EXPECT_EQ(geef(in).werk.groepNamen[0], "set(SRCS0 " + g.regel);
-    }
-}
-
 // The listing ends at the first source on another volume, with an error; the
-// groups made before stay in the working lists, and the include file keeps its sort line.
+// groups made before stay, and the include file keeps its sort line. In an
+// include file a source in the output directory takes the relative case.
 TEST(Bronlijst, ASourceOnAnotherVolumeEndsOnlyTheListing)
 {
     struct Opname : wxLog {
@@ -146,12 +129,12 @@ TEST(Bronlijst, ASourceOnAnotherVolumeEndsOnlyTheListing)
     } opname;
     wxLog* const vorige = wxLog::SetActiveTarget(&opname);
     kern::geefVolumeNaad() = [](const wxFileName& f) { return f.GetFullPath().StartsWith("/q") ? "Q" : ""; };
-    const Uitkomst u = geef(maakInvoer("/p", {"/p/src/a.c", "/q/b.c", "/p/src/c.c"}, kern::SoortInclude), true);
+    const Uitkomst u = geef(maakInvoer("/p", {"/p/a.c", "/q/b.c", "/p/src/c.c"}, kern::SoortInclude), true);
     kern::geefVolumeNaad() = [](const wxFileName& f) { return f.GetVolume(); };
     wxLog::SetActiveTarget(vorige);
     EXPECT_EQ(opname.regels, "1:Error computing the relative path between output file and the source files.\n"
                              "Please select the output directory to reside on the same volume as the sources files.");
-    EXPECT_EQ(samen(u.werk.groepNamen), "set(SRCS0 a.c ");
+    EXPECT_EQ(samen(u.werk.dirLijst) + "|" + samen(u.werk.groepNamen), "|set(SRCS0 a.c ");
     EXPECT_EQ(u.tekst, "## Klavermol generated Common include file\n" + kop + minimum + "set(SRCS )\n" + includeSlot);
 }
 
@@ -219,21 +202,13 @@ TEST(Generator, TheLibraryKinds)
     }
 }
 
-// Headers only: no sort line. A file in the output directory takes the
-// relative case, and the stored templates are never read.
-TEST(Generator, TheIncludeFiles)
+// Headers only: no sort line; the stored templates are never read.
+TEST(Generator, TheIncludeFileOfHeaders)
 {
-    const struct { const char* bron; wxString rest; } gevallen[] = {
-        {"/p/inc/a.h", "set(SrcPath0 ${PROJECT_SOURCE_DIR}/inc)\n"
-                       "\nset(AllIncludeDirs ${SrcPath0} )\ninclude_directories(${AllIncludeDirs})\n\n"
-                       "## Include this file for including the listed include_directories directives.\n\n\n"},
-        {"/p/a.c", "set(SrcPath0 ${PROJECT_SOURCE_DIR}/)\n" + geenIncludeMappen +
-                       "set(SRCS0Path ${SrcPath0})\nset(SRCS0 a.c )\n" + foreachBlok(0) + includeSlot},
-    };
-    for (const auto& g : gevallen) {
-        kern::GeneratorInvoer in = maakInvoer("/p", {g.bron}, kern::SoortInclude);
-        in.sjablonen.includeKommando = in.sjablonen.projektKommando = "## eigen";
-        EXPECT_EQ(geef(in, true).tekst,
-                  "## Klavermol generated Common include file\n" + kop + minimum + "set(SRCS )\n" + g.rest);
-    }
+    kern::GeneratorInvoer in = maakInvoer("/p", {"/p/inc/a.h"}, kern::SoortInclude);
+    in.sjablonen.includeKommando = in.sjablonen.projektKommando = "## eigen";
+    EXPECT_EQ(geef(in, true).tekst, "## Klavermol generated Common include file\n" + kop + minimum +
+                                        "set(SRCS )\nset(SrcPath0 ${PROJECT_SOURCE_DIR}/inc)\n"
+                                        "\nset(AllIncludeDirs ${SrcPath0} )\ninclude_directories(${AllIncludeDirs})\n\n"
+                                        "## Include this file for including the listed include_directories directives.\n\n\n");
 }

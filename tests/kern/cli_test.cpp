@@ -60,7 +60,8 @@ protected:
 // what Execute would show for the same state. "@" in a message is the home.
 TEST_F(Cli, PrintsWhatExecuteWouldShowForTheSameState)
 {
-    for (const char* pad : {"n/goed.c", "n/a;b.c", "n/a\\b.c", "n/m;n/y.c", "n/caf\xe9.c", "n/m\xe9/x.c"})
+    for (const char* pad : {"n/goed.c", "n/a;b.c", "n/a\\b.c", "n/m;n/y.c", "n/d${a}.c", "n/m${a}/z.c", "n/caf\xe9.c",
+                            "n/m\xe9/x.c"})
         boom.maakBestand(pad, "\n"); // the last two are not UTF-8
     boom.maakBestand("andere.ini", "[Configuratie]\nProjektKommando=## from elsewhere\n");
     const std::string dubbel = "@/p/src/a.c won't be added since it is already in your selection list.\n";
@@ -90,7 +91,7 @@ TEST_F(Cli, PrintsWhatExecuteWouldShowForTheSameState)
          verwacht({"p/src/a.c"}, [&](I& in) { in.biebs = {{boom.map("lib"), "x", true}}; }),
          dubbel + dubbel + "CMakeLists.txt won't be added since it is already in your selection list.\n"},
         {"-m recursive -o p --c n -f 'n/a;b.c'", verwacht({"n/goed.c"}),
-         "klavermol-cli: 6 names were left out: a CMake file cannot name a path that is not valid UTF-8 "
+         "klavermol-cli: 8 names were left out: a CMake file cannot name a path that is not valid UTF-8 "
          "or that contains \";\", \"\\\" or \"${\".\n"},
         // a settings file of its own stands in for the stored one
         {"-o p --settings andere.ini", verwacht({}, [](I& in) {

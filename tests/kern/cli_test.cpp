@@ -57,14 +57,14 @@ protected:
 } // namespace
 
 // Entries in command-line order, as Add collects them; what is printed is
-// what Execute would show for the same state. "@" in a message is the home.
+// what Execute would show for the same state.
 TEST_F(Cli, PrintsWhatExecuteWouldShowForTheSameState)
 {
     for (const char* pad : {"n/goed.c", "n/a;b.c", "n/a\\b.c", "n/m;n/y.c", "n/d${a}.c", "n/m${a}/z.c", "n/caf\xe9.c",
                             "n/m\xe9/x.c"})
         boom.maakBestand(pad, "\n"); // the last two are not UTF-8
     boom.maakBestand("andere.ini", "[Configuratie]\nProjektKommando=## from elsewhere\n");
-    const std::string dubbel = "@/p/src/a.c won't be added since it is already in your selection list.\n";
+    const std::string dubbel = boom.pad("p/src/a.c") + " won't be added since it is already in your selection list.\n";
     using I = kern::GeneratorInvoer;
     const struct { const char* argumenten; std::string uit, fout; } rijen[] = {
         {"-o p --c --h -m recursive p", verwacht({"p/src/a.c", "p/main.c", "p/inc/a.h"})},
@@ -101,11 +101,8 @@ TEST_F(Cli, PrintsWhatExecuteWouldShowForTheSameState)
     };
     for (const auto& rij : rijen) {
         const Uitslag u = voerUit(rij.argumenten);
-        wxString fout(rij.fout);
-        fout.Replace("@", boom.map());
-        EXPECT_EQ(u.code, 0) << rij.argumenten;
         EXPECT_EQ(u.uit, rij.uit) << rij.argumenten;
-        EXPECT_EQ(u.fout, fout.utf8_string()) << rij.argumenten;
+        EXPECT_EQ(std::to_string(u.code) + " " + u.fout, "0 " + rij.fout) << rij.argumenten;
     }
 }
 
@@ -156,9 +153,8 @@ TEST_F(Cli, ErrorsGiveAMessageAndANonZeroExitAndNoFile)
     ::mkfifo(boom.pad("fifo").c_str(), 0666);
     for (const auto& geval : gevallen) {
         const Uitslag u = voerUit(geval.argumenten);
-        EXPECT_EQ(u.code, geval.code) << geval.argumenten;
-        EXPECT_NE(u.fout.find(geval.melding), std::string::npos) << geval.argumenten << ": " << u.fout;
-        EXPECT_EQ(u.uit, "") << geval.argumenten;
+        EXPECT_TRUE(u.code == geval.code && u.uit.empty() && u.fout.find(geval.melding) != std::string::npos)
+            << geval.argumenten << ": " << u.code << " " << u.uit << u.fout;
     }
     EXPECT_FALSE(wxFileName::Exists(boom.map("p/CMakeLists.txt")));
     const Uitslag hulp = voerUit("-h"); // the help stands alone on stdout

@@ -15,8 +15,7 @@ kern::GeneratorInvoer maakInvoer(const wxString& uitvoerDir, std::vector<wxStrin
     kern::GeneratorInvoer in;
     in.uitvoerDir = uitvoerDir;
     in.soort = soort;
-    for (const wxString& b : bronnen)
-        in.bronnen.Add(b);
+    in.bronnen = wxArrayString(bronnen.size(), bronnen.data());
     in.sjablonen = kern::geefStandaardSjablonen();
     in.sjablonen.kopieerrechtMededeling = "## kop\n";
     in.datum = "2020-09-07 13:25:22";
@@ -24,13 +23,10 @@ kern::GeneratorInvoer maakInvoer(const wxString& uitvoerDir, std::vector<wxStrin
     return in;
 }
 
-struct Uitkomst {
-    kern::Werklijsten werk;
-    wxString tekst;
-};
+struct Uitkomst { kern::Werklijsten werk; wxString tekst; };
 
 // The source listing alone, or the whole text of the chosen kind.
-Uitkomst geefLijst(const kern::GeneratorInvoer& in, bool heel = false)
+Uitkomst geef(const kern::GeneratorInvoer& in, bool heel = false)
 {
     Uitkomst u;
     (heel ? kern::maakUitvoer : kern::schrijfProjektLibUitvoer)(in, u.werk, u.tekst);
@@ -48,8 +44,6 @@ wxString foreachBlok(int n)
 const wxString kop = "## File generated on : 2020-09-07 13:25:22.\n## kop\n\n";
 const wxString minimum = "# define minimum cmake version.\ncmake_minimum_required(VERSION 2.8.10)\n\n";
 const wxString geenIncludeMappen = "\nset(AllIncludeDirs )\ninclude_directories(${AllIncludeDirs})\n\n";
-const wxString projektSlot =
-    "## This project will probably need some tuning, but this is the raw form with most ingredients in place.\n\n\n";
 const wxString includeSlot =
     "\nlist(SORT SRCS)\n\n"
     "## Include this file where you would want to compile the listed source files (stored in variable SRCS).\n"
@@ -57,134 +51,90 @@ const wxString includeSlot =
 
 } // namespace
 
-TEST(Bronlijst, TheWorkedExampleLineByLine)
-{
-    const auto in = maakInvoer("/p", {"/p/main.c", "/p/src/a.c", "/p/src/b.c", "/p/inc/a.h"});
-    EXPECT_EQ(geefLijst(in).tekst, "set(SrcPath0 ${PROJECT_SOURCE_DIR}/.)\nset(SrcPath1 ${PROJECT_SOURCE_DIR}/src)\n"
-                                   "set(SrcPath2 ${PROJECT_SOURCE_DIR}/inc)\n\n"
-                                   "set(AllIncludeDirs ${SrcPath2} )\ninclude_directories(${AllIncludeDirs})\n\n\n"
-                                   "list(APPEND SRCS main.c )\n" +
-                                       foreachBlok(0) + "set(SRCS1Path ${SrcPath1})\nset(SRCS1 a.c b.c )\n" +
-                                       foreachBlok(1));
-}
-
+// Each row also through the store, where an unchecked entry is passed by.
 TEST(Bronlijst, GroupsPerDirectoryWithHeadersAndTheOutputDirectory)
 {
-    const struct {
-        const char* uitvoer;
-        std::vector<wxString> bronnen;
-        const char *mappen, *paden, *namen, *includes;
-    } gevallen[] = {
+    const auto naam = [](size_t lengte, char letter) { return "/p/d/" + wxString(letter, lengte - 2) + ".c"; };
+    const wxString a69 = naam(69, 'a'), a70 = naam(70, 'a'), a80 = naam(80, 'a'), c78 = naam(78, 'c'),
+                   c79 = naam(79, 'c'), p0 = "set(SRCS0Path ${SrcPath0})#set(SRCS0 ";
+    const struct { wxString uitvoer; std::vector<wxString> bronnen; wxString mappen, lijsten; } gevallen[] = {
         // a directory met first through a header gets its group with its first source
         {"/p", {"/p/x/a.h", "/p/y/b.c", "/p/x/c.c", "/p/x/d.h"}, "x|y",
-         "set(SRCS0Path ${SrcPath1})|set(SRCS1Path ${SrcPath0})", "set(SRCS0 b.c )|set(SRCS1 c.c )", "${SrcPath0}"},
+         "set(SRCS0Path ${SrcPath1})|set(SRCS1Path ${SrcPath0})#set(SRCS0 b.c )|set(SRCS1 c.c )#${SrcPath0}"},
         // only a lower-case "h" is a header
         {"/p", {"/p/a/x.hpp", "/p/b/y.H", "/p/c/z.h"}, "a|b|c",
-         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})", "set(SRCS0 x.hpp )|set(SRCS1 y.H )", "${SrcPath2}"},
+         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})#set(SRCS0 x.hpp )|set(SRCS1 y.H )#${SrcPath2}"},
         // a source beside the output after "." came in through a header
-        {"/p", {"/p/a.h", "/p/src/b.c", "/p/c.c"}, ".|src", "set(SRCS0Path ${SrcPath1})|",
-         "set(SRCS0 b.c )|list(APPEND SRCS c.c )", "."},
-        // the output directory is compared as the picker holds it: with a
-        // closing separator the files beside it take the relative case
-        {"/p/", {"/p/a.c", "/p/a.h"}, "", "set(SRCS0Path ${SrcPath0})", "set(SRCS0 a.c )", "${SrcPath0}"},
+        {"/p", {"/p/a.h", "/p/src/b.c", "/p/c.c"}, ".|src", "set(SRCS0Path ${SrcPath1})|#set(SRCS0 b.c )|list(APPEND SRCS c.c )#."},
+        // with a closing separator the files beside the output take the relative case
+        {"/p/", {"/p/a.c", "/p/a.h"}, "", p0 + "a.c )#${SrcPath0}"},
         // a directory beside the output with the same start is a sibling
         {"/w/p", {"/w/p2/a.c", "/w/p/sub/diep/b.c", "/a.c"}, "../p2|sub/diep|../..",
-         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})|set(SRCS2Path ${SrcPath2})",
-         "set(SRCS0 a.c )|set(SRCS1 b.c )|set(SRCS2 a.c )", ""},
+         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})|set(SRCS2Path ${SrcPath2})"
+         "#set(SRCS0 a.c )|set(SRCS1 b.c )|set(SRCS2 a.c )#"},
+        // names CMake reads otherwise go quoted and escaped
+        {"/p", {"/p/s/a\"b.c", "/p/s/c\x7f.c", "/p/s/d e.c"}, "s", p0 + "\"a\\\"b.c\" \"c\x7f.c\" \"d e.c\" )#"},
+        // paths the toolkit splits: a file in "/", a "//", a dot-file ".h" (a source)
+        {"/", {"/a.c", "/b.h"}, ".", "#list(APPEND SRCS a.c )#."},
+        {"/p", {"/p//s/.h", "/p/s/b.c", "/p/t//c.h"}, "s|t", p0 + ".h b.c )#${SrcPath1}"},
+        {"/p/~q", {"/p/~q/i/.h", "/p/~q/i/a.h"}, "i", p0 + ".h )#${SrcPath0}"},
+        // the break follows the first name added past 80 characters since the start or the last tab (which counts)
+        {"/p", {a69, "/p/d/b.c", "/p/d/c.c"}, "d", p0 + a69.substr(5) + " b.c c.c \n\t)#"},
+        {"/p", {a70, "/p/d/b.c", "/p/d/c.c"}, "d", p0 + a70.substr(5) + " b.c \n\tc.c )#"},
+        {"/p", {a80, "/p/d/b.c", c78, "/p/d/d.c", "/p/d/e.c"}, "d",
+         p0 + a80.substr(5) + " b.c \n\t" + c78.substr(5) + " d.c e.c \n\t)#"},
+        {"/p", {a80, "/p/d/b.c", c79, "/p/d/d.c", "/p/d/e.c"}, "d",
+         p0 + a80.substr(5) + " b.c \n\t" + c79.substr(5) + " d.c \n\te.c )#"},
     };
     for (const auto& g : gevallen) {
-        const Uitkomst u = geefLijst(maakInvoer(g.uitvoer, g.bronnen));
+        const Uitkomst u = geef(maakInvoer(g.uitvoer, g.bronnen));
         EXPECT_EQ(samen(u.werk.dirLijst), g.mappen);
-        EXPECT_EQ(samen(u.werk.groepPaden), g.paden) << g.mappen;
-        EXPECT_EQ(samen(u.werk.groepNamen), g.namen) << g.mappen;
-        EXPECT_EQ(samen(u.werk.includeDirs), g.includes) << g.mappen;
-        // the same from the store, where an unchecked entry is passed by
+        EXPECT_EQ(samen(u.werk.groepPaden) + "#" + samen(u.werk.groepNamen) + "#" + samen(u.werk.includeDirs),
+                  g.lijsten) << g.mappen;
         kern::BronSelektie selektie;
         selektie.voegToe("/weg/niet.c");
         selektie.zetAangevinkt(0, false);
         selektie.voegToe(wxArrayString(g.bronnen.size(), g.bronnen.data()), nullptr);
         kern::GeneratorInvoer uitSelektie = maakInvoer(g.uitvoer);
         uitSelektie.selektie = &selektie;
-        EXPECT_EQ(geefLijst(uitSelektie).tekst, u.tekst) << g.mappen;
+        EXPECT_EQ(geef(uitSelektie).tekst, u.tekst) << g.mappen;
     }
 }
 
-// ${SrcPath1} must not be taken for ${SrcPath12}, neither in the include
-// list nor in the search for a directory's group.
-TEST(Bronlijst, AReferenceIsNotFoundInsideALongerNumber)
+// ${SrcPath1} is not taken for ${SrcPath12}; the include list breaks after
+// nine and then every eight entries.
+TEST(Bronlijst, ManyDirectoriesKeepTheirNumbersAndTheIncludeListWraps)
 {
     kern::GeneratorInvoer in = maakInvoer("/p");
-    for (int i = 0; i < 13; ++i)
-        in.bronnen.Add(wxString::Format("/p/d%d/%s", i, i == 1 ? "eerst.h" : "x.h"));
-    in.bronnen.Add("/p/d12/bron.c"); // group 0 takes ${SrcPath12}
-    in.bronnen.Add("/p/d1/bron.c");  // d1 has no group yet
-    in.bronnen.Add("/p/d1/nog.h");
-    const Uitkomst u = geefLijst(in);
-    EXPECT_EQ(samen(u.werk.groepPaden), "set(SRCS0Path ${SrcPath12})|set(SRCS1Path ${SrcPath1})");
-    EXPECT_EQ(samen(u.werk.groepNamen), "set(SRCS0 bron.c )|set(SRCS1 bron.c )");
-    ASSERT_EQ(u.werk.includeDirs.size(), 13u);
-    EXPECT_EQ(u.werk.includeDirs[1], "${SrcPath1}");
-    EXPECT_EQ(u.werk.includeDirs[12], "${SrcPath12}");
-}
-
-// The check comes before a name is appended, so the break follows the first
-// name added to a line already past 80. "set(SRCS0 " is 10 characters, so
-// a first name of k characters makes the line 11 + k long. After a break
-// the line is measured as its length minus the position of its last tab:
-// the tab counts, and a tab with 80 characters does not break yet.
-TEST(Bronlijst, TheWrapBreaksOnlyPast80FromTheStartOrTheLastTab)
-{
-    const auto naamVan = [](size_t lengte, char letter) { return wxString(letter, lengte - 2) + ".c"; };
-    const wxString a69 = naamVan(69, 'a'), a70 = naamVan(70, 'a'), a80 = naamVan(80, 'a');
-    const wxString c78 = naamVan(78, 'c'), c79 = naamVan(79, 'c');
-    const struct { std::vector<wxString> namen; wxString regel; } gevallen[] = {
-        {{a69, "b.c", "c.c"}, "set(SRCS0 " + a69 + " b.c c.c \n\t)"},
-        {{a70, "b.c", "c.c"}, "set(SRCS0 " + a70 + " b.c \n\tc.c )"},
-        {{a80, "b.c", c78, "d.c", "e.c"}, "set(SRCS0 " + a80 + " b.c \n\t" + c78 + " d.c e.c \n\t)"},
-        {{a80, "b.c", c79, "d.c", "e.c"}, "set(SRCS0 " + a80 + " b.c \n\t" + c79 + " d.c \n\te.c )"},
-    };
-    for (const auto& geval : gevallen) {
-        kern::GeneratorInvoer in = maakInvoer("/p");
-        for (const wxString& naam : geval.namen)
-            in.bronnen.Add("/p/d/" + naam);
-        EXPECT_EQ(geefLijst(in).werk.groepNamen[0], geval.regel);
-    }
-}
-
-TEST(Bronlijst, EighteenHeaderDirectoriesGiveNineThenEightThenOne)
-{
-    kern::GeneratorInvoer in = maakInvoer("/p");
-    for (int i = 0; i < 18; ++i)
-        in.bronnen.Add(wxString::Format("/p/h%d/x.h", i));
     wxString verwacht = "\nset(AllIncludeDirs ";
-    for (int i = 0; i < 18; ++i)
+    for (int i = 0; i < 18; ++i) {
+        in.bronnen.Add(wxString::Format("/p/d%d/x.h", i));
         verwacht += wxString::Format("${SrcPath%d} ", i) + (i == 8 || i == 16 ? "\n\t" : "");
-    verwacht += ")\ninclude_directories(${AllIncludeDirs})\n\n";
-    EXPECT_NE(geefLijst(in).tekst.Find(verwacht), wxNOT_FOUND);
+    }
+    for (const char* b : {"/p/d12/bron.c", "/p/d1/bron.c", "/p/d1/nog.h"})
+        in.bronnen.Add(b);
+    const Uitkomst u = geef(in);
+    EXPECT_NE(u.tekst.Find(verwacht + ")\ninclude_directories(${AllIncludeDirs})\n\n"), wxNOT_FOUND);
+    EXPECT_EQ(samen(u.werk.groepPaden), "set(SRCS0Path ${SrcPath12})|set(SRCS1Path ${SrcPath1})");
 }
 
-// The listing ends at the first source on another volume; the generator
-// goes on with its own lines, and the groups made before the end stay in
-// the working lists, so an include file still counts them for its sort line.
+// The listing ends at the first source on another volume, with an error; the
+// groups made before stay, and the include file keeps its sort line. In an
+// include file a source in the output directory takes the relative case.
 TEST(Bronlijst, ASourceOnAnotherVolumeEndsOnlyTheListing)
 {
     struct Opname : wxLog {
-        wxString fouten;
-        void DoLogRecord(wxLogLevel niveau, const wxString& tekst, const wxLogRecordInfo&) override
-        {
-            fouten << (niveau == wxLOG_Error ? tekst + "|" : "");
-        }
+        wxString regels;
+        void DoLogRecord(wxLogLevel n, const wxString& t, const wxLogRecordInfo&) override { regels << n << ":" << t; }
     } opname;
     wxLog* const vorige = wxLog::SetActiveTarget(&opname);
     kern::geefVolumeNaad() = [](const wxFileName& f) { return f.GetFullPath().StartsWith("/q") ? "Q" : ""; };
-    kern::GeneratorInvoer in = maakInvoer("/p", {"/p/src/a.c", "/q/b.c", "/p/src/c.c"}, kern::SoortInclude);
-    const Uitkomst u = geefLijst(in, true);
+    const Uitkomst u = geef(maakInvoer("/p", {"/p/a.c", "/q/b.c", "/p/src/c.c"}, kern::SoortInclude), true);
     kern::geefVolumeNaad() = [](const wxFileName& f) { return f.GetVolume(); };
     wxLog::SetActiveTarget(vorige);
-
-    EXPECT_EQ(opname.fouten, "Error computing the relative path between output file and the source files.\n"
-                             "Please select the output directory to reside on the same volume as the sources files.|");
-    EXPECT_EQ(samen(u.werk.groepNamen), "set(SRCS0 a.c ");
+    EXPECT_EQ(opname.regels, "1:Error computing the relative path between output file and the source files.\n"
+                             "Please select the output directory to reside on the same volume as the sources files.");
+    EXPECT_EQ(samen(u.werk.dirLijst) + "|" + samen(u.werk.groepNamen), "|set(SRCS0 a.c ");
     EXPECT_EQ(u.tekst, "## Klavermol generated Common include file\n" + kop + minimum + "set(SRCS )\n" + includeSlot);
 }
 
@@ -192,86 +142,73 @@ TEST(Generator, TheProjectTexts)
 {
     const wxString begin =
         "## Klavermol generated CMakelists Project file\n" + kop + "set(ProjectName Common)\n\n" + minimum;
-    kern::GeneratorInvoer in = maakInvoer("/p", {"/p/src/a.c"});
+    const wxString slot =
+        "## This project will probably need some tuning, but this is the raw form with most ingredients in place.\n\n\n";
+    kern::GeneratorInvoer in = maakInvoer("/p", {"/p/main.c", "/p/src/a.c", "/p/src/b.c", "/p/inc/a.h"});
     in.biebs = {{"/p/l", "een", true}, {"/p/m", "twee", false}};
-    EXPECT_EQ(geefLijst(in, true).tekst,
-              begin + "set(SRCS )\nset(SrcPath0 ${PROJECT_SOURCE_DIR}/src)\n" + geenIncludeMappen +
-                  "set(SRCS0Path ${SrcPath0})\nset(SRCS0 a.c )\n" + foreachBlok(0) +
-                  "set(Lib0Path ${PROJECT_SOURCE_DIR}/l)\nadd_subdirectory(${Lib0Path})\n\n"
-                  "\nlist(SORT SRCS)\n\n" +
+    EXPECT_EQ(geef(in, true).tekst,
+              begin + "set(SRCS )\nset(SrcPath0 ${PROJECT_SOURCE_DIR}/.)\nset(SrcPath1 ${PROJECT_SOURCE_DIR}/src)\n"
+                  "set(SrcPath2 ${PROJECT_SOURCE_DIR}/inc)\n\n"
+                  "set(AllIncludeDirs ${SrcPath2} )\ninclude_directories(${AllIncludeDirs})\n\n\n"
+                  "list(APPEND SRCS main.c )\n" + foreachBlok(0) +
+                  "set(SRCS1Path ${SrcPath1})\nset(SRCS1 a.c b.c )\n" + foreachBlok(1) +
+                  "set(Lib0Path ${PROJECT_SOURCE_DIR}/l)\nadd_subdirectory(${Lib0Path})\n\n\nlist(SORT SRCS)\n\n" +
                   kern::geefStandaardSjablonen().projektKommando +
-                  "\ntarget_link_libraries(${ProjectName} een )\n\n" + projektSlot);
+                  "\ntarget_link_libraries(${ProjectName} een )\n\n" + slot);
 
-    // Crosscompile. Include files and sub-directories keep their position
-    // numbers, take ${SrcPath<i>} only on an exact match with the (relative)
-    // directory list, and start from ${PROJECT_SOURCE_DIR} whatever the
-    // project type.
+    // Crosscompile: include files and sub-directories keep their row numbers,
+    // take ${SrcPath<i>} only on an exact match and start from ${PROJECT_SOURCE_DIR}.
+    in = maakInvoer("/p", {"/p/src/a.c"});
     in.projektType = 1;
     in.includes = {{"/p/cmake/a.cmake", false}, {"src/eigen.cmake", true}, {"/p/src/abs.cmake", true},
                    {"/p/b.cmake", true}};
     in.biebs = {{"src", "een", true}, {"/p/lib1", "x", false}, {"/q/lib2", "twee", true}, {"/p", "drie", true}};
-    EXPECT_EQ(geefLijst(in, true).tekst,
+    EXPECT_EQ(geef(in, true).tekst,
               begin +
                   "## Cross-compilation requires a rewrite of several CMake compilation directive.\n"
                   "## Please include a cross-compile configuration file here (using include or directly).\n\n"
-                  "set(SRCS )\nset(SrcPath0 ${CMAKE_CURRENT_SOURCE_DIR}/src)\n" +
-                  geenIncludeMappen +
+                  "set(SRCS )\nset(SrcPath0 ${CMAKE_CURRENT_SOURCE_DIR}/src)\n" + geenIncludeMappen +
                   "set(Include1Path ${SrcPath0})\ninclude(${Include1Path}/eigen.cmake)\n\n"
                   "set(Include2Path ${PROJECT_SOURCE_DIR}/src)\ninclude(${Include2Path}/abs.cmake)\n\n"
                   "set(Include3Path ${PROJECT_SOURCE_DIR}/.)\ninclude(${Include3Path}/b.cmake)\n\n"
-                  "set(SRCS0Path ${SrcPath0})\nset(SRCS0 a.c )\n" +
-                  foreachBlok(0) +
+                  "set(SRCS0Path ${SrcPath0})\nset(SRCS0 a.c )\n" + foreachBlok(0) +
                   "set(Lib0Path ${SrcPath0})\nadd_subdirectory(${Lib0Path})\n\n"
                   "set(Lib2Path ${PROJECT_SOURCE_DIR}/../q/lib2)\nadd_subdirectory(${Lib2Path})\n\n"
                   "set(Lib3Path ${PROJECT_SOURCE_DIR}/.)\nadd_subdirectory(${Lib3Path})\n\n"
                   "\nlist(SORT SRCS)\n\n## Enter the Cross compile commands here.\n"
-                  "target_link_libraries(${ProjectName} een twee drie )\n\n" +
-                  projektSlot);
-
+                  "target_link_libraries(${ProjectName} een twee drie )\n\n" + slot);
     in.soort = 3; // no such kind: nothing at all
-    EXPECT_TRUE(geefLijst(in, true).tekst.empty());
+    EXPECT_TRUE(geef(in, true).tekst.empty());
 }
 
-// The library variable's name comes from its template; the project type
-// still picks the path base.
+// The library variable's name comes from its template, the path base from the project type.
 TEST(Generator, TheLibraryKinds)
 {
-    const kern::Sjablonen standaard = kern::geefStandaardSjablonen();
-    const struct { int type; wxString kommando; } gevallen[] = {
-        {0, standaard.biebKommando}, {1, standaard.dynBiebKommando}, {2, standaard.objektBiebKommando}, {3, ""}};
-    for (const auto& geval : gevallen) {
+    const kern::Sjablonen s = kern::geefStandaardSjablonen();
+    const wxString kommandos[] = {s.biebKommando, s.dynBiebKommando, s.objektBiebKommando, ""};
+    for (int type = 0; type < 4; ++type) {
         kern::GeneratorInvoer in = maakInvoer("/p/lib", {"/p/lib/a.c"}, kern::SoortBieb);
-        in.biebType = geval.type;
-        in.projektType = geval.type == 3 ? 1 : 0;
+        in.biebType = type;
+        in.projektType = type == 3 ? 1 : 0;
         in.naam = "mylib";
         in.sjablonen.biebLibNaam = "MijnBieb";
-        EXPECT_EQ(geefLijst(in, true).tekst, "## Klavermol generated CMakelists add_library file\n" + kop + minimum +
-                                       "# The absolute path for this CMakeLists.txt file is : \"/p/lib\"\n"
-                                       "set(MijnBieb mylib)\n\nset(SRCS )\n" +
-                                       (geval.type == 3 ? "set(SrcPath0 ${CMAKE_CURRENT_SOURCE_DIR}/.)\n"
-                                                        : "set(SrcPath0 ${PROJECT_SOURCE_DIR}/.)\n") +
-                                       geenIncludeMappen + "\nlist(APPEND SRCS a.c )\n" + foreachBlok(0) +
-                                       "\nlist(SORT SRCS)\n\n" + geval.kommando + "\n\n\n")
-            << geval.type;
+        EXPECT_EQ(geef(in, true).tekst, "## Klavermol generated CMakelists add_library file\n" + kop + minimum +
+                                            "# The absolute path for this CMakeLists.txt file is : \"/p/lib\"\n"
+                                            "set(MijnBieb mylib)\n\nset(SRCS )\nset(SrcPath0 ${" +
+                                            (type == 3 ? "CMAKE_CURRENT" : "PROJECT") + "_SOURCE_DIR}/.)\n" +
+                                            geenIncludeMappen + "\nlist(APPEND SRCS a.c )\n" + foreachBlok(0) +
+                                            "\nlist(SORT SRCS)\n\n" + kommandos[type] + "\n\n\n")
+            << type;
     }
 }
 
-// With only headers there is no sort line. Every file takes the relative
-// case, even one in the output directory, and the stored templates are
-// never read.
-TEST(Generator, TheIncludeFiles)
+// Headers only: no sort line; the stored templates are never read.
+TEST(Generator, TheIncludeFileOfHeaders)
 {
-    const struct { const char* bron; wxString rest; } gevallen[] = {
-        {"/p/inc/a.h", "set(SrcPath0 ${PROJECT_SOURCE_DIR}/inc)\n"
-                       "\nset(AllIncludeDirs ${SrcPath0} )\ninclude_directories(${AllIncludeDirs})\n\n"
-                       "## Include this file for including the listed include_directories directives.\n\n\n"},
-        {"/p/a.c", "set(SrcPath0 ${PROJECT_SOURCE_DIR}/)\n" + geenIncludeMappen +
-                       "set(SRCS0Path ${SrcPath0})\nset(SRCS0 a.c )\n" + foreachBlok(0) + includeSlot},
-    };
-    for (const auto& geval : gevallen) {
-        kern::GeneratorInvoer in = maakInvoer("/p", {geval.bron}, kern::SoortInclude);
-        in.sjablonen.includeKommando = in.sjablonen.projektKommando = "## eigen";
-        EXPECT_EQ(geefLijst(in, true).tekst,
-                  "## Klavermol generated Common include file\n" + kop + minimum + "set(SRCS )\n" + geval.rest);
-    }
+    kern::GeneratorInvoer in = maakInvoer("/p", {"/p/inc/a.h"}, kern::SoortInclude);
+    in.sjablonen.includeKommando = in.sjablonen.projektKommando = "## eigen";
+    EXPECT_EQ(geef(in, true).tekst, "## Klavermol generated Common include file\n" + kop + minimum +
+                                        "set(SRCS )\nset(SrcPath0 ${PROJECT_SOURCE_DIR}/inc)\n"
+                                        "\nset(AllIncludeDirs ${SrcPath0} )\ninclude_directories(${AllIncludeDirs})\n\n"
+                                        "## Include this file for including the listed include_directories directives.\n\n\n");
 }

@@ -97,7 +97,8 @@ TEST(BronWandeling, OnlyRegularUtf8FilesTheWalkCanReachCountOnce)
                           "dicht.c", "geheim/g.c", "half/h.c", "diep/lus/d.c", "map.c/m.h"})
         boom.maakBestand(b);
     for (const auto& [naar, link] : {std::pair{"map.c", "link.c"}, {"goed.c", "naar.c"}, {"nergens", "kapot.c"},
-                                     {"/proc/self", "proc"}, {"/dev", "dev"}, {"..", "diep/lus/terug"}})
+                                     {"/proc/self", "proc"}, {"/dev", "dev"}, {"..", "diep/lus/terug"},
+                                     {".", "zelf"}})
         boom.maakLink(naar, link);
     ::mkfifo(boom.pad("pijp.c").c_str(), 0600);
     std::string waaier;
@@ -105,7 +106,7 @@ TEST(BronWandeling, OnlyRegularUtf8FilesTheWalkCanReachCountOnce)
         const std::string map = "waaier/n" + std::to_string(i), naam = "x" + std::to_string(i) + ".c";
         boom.maakBestand(map + "/" + naam), waaier += naam + "\n";
         for (const char* link : {"/a", "/b"})
-            boom.maakLink("../n" + std::to_string(i + 1), map + link);
+            boom.maakLink("../n" + std::to_string(i < 32 ? i + 1 : 10), map + link); // a ring
     }
     int fd = ::open(boom.pad("").c_str(), O_RDONLY | O_DIRECTORY);
     for (int i = 0; i < 500; ++i) // 500 levels of 10 characters: longer than any path the system takes

@@ -25,7 +25,8 @@ struct TijdelijkeBoom {
     void maakLink(const std::string& naar, const std::string& r) const { std::filesystem::create_symlink(naar, pad(r)); }
 };
 
-inline int geefToolkitVlaggen(int modus) { return wxDIR_FILES | (modus == 1 ? wxDIR_NO_FOLLOW : wxDIR_DIRS); }
+// Mode 1 the directory, 2 the tree, 3 (a walk only) the tree without following links.
+inline int geefToolkitVlaggen(int modus) { return wxDIR_FILES | (modus >= 2 ? wxDIR_DIRS : 0) | (modus != 2 ? wxDIR_NO_FOLLOW : 0); }
 
 // What the toolkit collects, pattern by pattern, less what the walk leaves out on purpose: names not on
 // disk (not UTF-8), entries that are not regular files, a directory's files again (through a link).

@@ -19,8 +19,8 @@ TEST_P(WillekeurigeBoom, WalksGiveTheToolkitsPerPatternResults)
     TijdelijkeBoom boom;
     maakWillekeurigeBoom(boom, GetParam());
     const std::vector<wxString> patronen{"*.c", "?.h", "*a*", "*.c", "*", "*\\*", "a?*.S", "*.[ch]"};
-    for (int modus : {1, 2}) {
-        for (const auto& f : geefAlleFamilies())
+    for (int modus : {1, 2, 3}) {
+        for (const auto& f : modus < 3 ? geefAlleFamilies() : std::vector<kern::Families>())
             for (const wxString& map : {boom.map(), boom.map() + "/", boom.map() + "//"}) {
                 wxArrayString gevonden;
                 ASSERT_TRUE(kern::verzamelBestanden(map, modus, f, gevonden));
@@ -35,7 +35,7 @@ TEST_P(WillekeurigeBoom, WalksGiveTheToolkitsPerPatternResults)
                         emmers[i].Add(prefix + t.naam);
             return true;
         };
-        ASSERT_TRUE(kern::wandel(boom.map(), patronen, {modus == 2, modus == 2}, kern::Volgorde(0), ontvang));
+        ASSERT_TRUE(kern::wandel(boom.map(), patronen, {modus >= 2, modus == 2}, kern::Volgorde(0), ontvang));
         for (size_t i = 0; i < patronen.size(); ++i)
             EXPECT_EQ(emmers[i], verzamelPerPatroon(boom.map(), {patronen[i]}, geefToolkitVlaggen(modus))) << i;
     }
@@ -98,7 +98,7 @@ TEST(BronWandeling, OnlyRegularUtf8FilesTheWalkCanReachCountOnce)
         boom.maakBestand(b);
     for (const auto& [naar, link] : {std::pair{"map.c", "link.c"}, {"goed.c", "naar.c"}, {"nergens", "kapot.c"},
                                      {"/proc/self", "proc"}, {"/dev", "dev"}, {"..", "diep/lus/terug"},
-                                     {".", "zelf"}})
+                                     {".", "zelf"}, {"pijp.c", "naarpijp.c"}})
         boom.maakLink(naar, link);
     ::mkfifo(boom.pad("pijp.c").c_str(), 0600);
     std::string waaier;
@@ -119,6 +119,7 @@ TEST(BronWandeling, OnlyRegularUtf8FilesTheWalkCanReachCountOnce)
     const auto beide = [&] { return geefGevonden(boom.map(), kern::ModusMap) + "|" + geefGevonden(boom.map(), 2); };
     EXPECT_EQ(alsNiemand(beide), "caf\xc3\xa9.c\ndicht.c\ngoed.c\nnaar.c\n1|caf\xc3\xa9.c\nd.c\ndicht.c\ngoed.c\n"
                                  "h.c (not on disk)\nlaatste.c (not on disk)\nnaar.c\n" + waaier + "y.c\n2");
+    EXPECT_NE(geefGevonden("/dev", kern::ModusRecursief).find(apparaat.substr(9) + "\n"), std::string::npos) << "picked";
     ::unlink(apparaat.c_str());
 }
 

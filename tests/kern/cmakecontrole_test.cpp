@@ -64,10 +64,9 @@ TEST(CMakeControleTest, VerdictsAndTheLinesTheyPointAt)
         });
         ASSERT_NE(eerste, u.meldingen.end());
         EXPECT_TRUE(eerste->tekst.StartsWith(g.melding)) << eerste->tekst;
-        const wxString plaats = g.plaats;
-        const int regel = plaats.empty() ? 0 : wxSplit(tekst, '\n', 0).Index(plaats) + 1;
-        EXPECT_EQ(eerste->bestand, plaats.empty() ? wxString() : regel > 0 ? pad : map + "/" + plaats.BeforeLast(':'));
-        EXPECT_EQ(eerste->regel, regel > 0 ? regel : wxAtoi(plaats.AfterLast(':')));
+        const int regel = *g.plaats ? wxSplit(tekst, '\n', 0).Index(g.plaats) + 1 : 0;
+        EXPECT_EQ(wxString::Format("%s:%d", eerste->bestand, eerste->regel),
+                  !*g.plaats ? ":0" : regel > 0 ? wxString::Format("%s:%d", pad, regel) : map + "/" + g.plaats);
     }
     EXPECT_FALSE(wxFileName::Exists(map + "/p/CMakeCache.txt") || wxDir(map + "/tmp").HasSubDirs()) << "left behind";
 }

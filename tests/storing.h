@@ -6,10 +6,8 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdlib>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <string>
 
 // The bytes of a file; empty when it cannot be read.
@@ -20,25 +18,16 @@ inline std::string leesBestand(const std::string& pad)
 }
 
 // While it lives, a write past 4 KiB fails as on a full disk (SIGXFSZ ignored).
-class VolleSchijf
-{
-public:
-    VolleSchijf() : oudeAfhandeling(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &oud);
-        const rlimit klein{4096, oud.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &klein);
-    }
+struct VolleSchijf {
+    VolleSchijf() { ::setrlimit(RLIMIT_FSIZE, &klein); }
     ~VolleSchijf() { ::setrlimit(RLIMIT_FSIZE, &oud), std::signal(SIGXFSZ, oudeAfhandeling); }
     VolleSchijf(const VolleSchijf&) = delete;
-
-private:
-    rlimit oud{};
-    void (*oudeAfhandeling)(int);
+    void (*oudeAfhandeling)(int) = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit oud = [] { rlimit r{}; ::getrlimit(RLIMIT_FSIZE, &r); return r; }();
+    rlimit klein{4096, oud.rlim_max};
 };
 
-// Root reads and writes everything, so as root the work runs in a child as
-// "nobody", and its result (a short text) comes back through a pipe.
+// Runs the work as "nobody" (in a child when root), giving back its short text result.
 inline std::string alsNiemand(const std::function<std::string()>& werk)
 {
     int buis[2];
@@ -53,12 +42,8 @@ inline std::string alsNiemand(const std::function<std::string()>& werk)
         ::_exit(::write(buis[1], uit.data(), uit.size()) == static_cast<ssize_t>(uit.size()) ? 0 : 3);
     }
     ::close(buis[1]);
-    std::string uit;
-    char blok[4096];
-    for (ssize_t n; (n = ::read(buis[0], blok, sizeof blok)) > 0;)
-        uit.append(blok, static_cast<size_t>(n));
-    ::close(buis[0]);
+    const std::string uit = leesBestand("/proc/self/fd/" + std::to_string(buis[0])); // up to the child's exit
     int status = 0;
-    ::waitpid(kind, &status, 0);
+    ::close(buis[0]), ::waitpid(kind, &status, 0);
     return status == 0 ? uit : "child failed: " + std::to_string(status);
 }

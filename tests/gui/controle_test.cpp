@@ -13,9 +13,20 @@
 
 #include <fstream>
 
+#include <gtk/gtk.h>
+
 class Controle : public ProgrammaTest
 {
 protected:
+    // Until the display has the window where the toolkit thinks it is.
+    void wachtOpPlaats(wxWindow& w)
+    {
+        wachtTot([&] {
+            GdkRectangle r;
+            gdk_window_get_frame_extents(gtk_widget_get_window(w.GetHandle()), &r);
+            return wxPoint(r.x, r.y) == w.GetPosition();
+        }, "the window in its place");
+    }
     // A real mouse click (or double click) on `punt` of `w` once it can take
     // it; returns when `w` has sent `gevolg`.
     void klikIn(wxWindow& w, wxEventType gevolg, wxPoint punt = wxDefaultPosition, bool dubbel = false)
@@ -23,6 +34,7 @@ protected:
         auto* top = static_cast<wxTopLevelWindow*>(wxGetTopLevelParent(&w));
         top->Raise();
         wachtTot([&] { return w.IsShownOnScreen() && w.IsEnabled() && top->IsActive(); }, "a control to click");
+        wachtOpPlaats(*top);
         if (punt == wxDefaultPosition)
             punt = wxPoint(w.GetClientSize().x / 2, w.GetClientSize().y / 2);
         bool gezien = false;
@@ -47,6 +59,7 @@ TEST_F(Controle, EnablingTheVerdictAMessageThatLeadsToItsLineAndCancelDuringALon
     KlavermolVenster& v = venster();
     EXPECT_FALSE(aan(CMakeControleID)); // no saved file yet
     v.SetSize(0, 0, wxGetDisplaySize().x, std::min(740, wxGetDisplaySize().y));
+    wachtOpPlaats(v);
     v.outputDirPicker->SetPath(maakMap("p"));
     std::size_t overgeslagen = 0;
     v.voegBronnenToe(wxSplit(maakBestand("p/main.c") + "," + maakBestand("p/src/a.c"), ','), overgeslagen);
@@ -55,7 +68,7 @@ TEST_F(Controle, EnablingTheVerdictAMessageThatLeadsToItsLineAndCancelDuringALon
     ASSERT_TRUE(kern::schrijfTekstBestand(pad, v.uitvoerTekst->GetValue()));
     EXPECT_TRUE(aan(CMakeControleID));
     wxRemoveFile(thuis + "/p/src/a.c"); // deleted after Add
-    klikIn(*v.FindWindow(CMakeControleID), wxEVT_BUTTON);
+    klikOp(v.FindWindow(CMakeControleID)); // the harness first takes the splash screen away
     auto* d = wxDynamicCast(wxWindow::FindWindowByName(CMakeControleDialoog::naam, &v), CMakeControleDialoog);
     ASSERT_NE(d, nullptr);
     d->Move(wxGetDisplaySize().x - d->GetSize().x, wxGetDisplaySize().y - d->GetSize().y);

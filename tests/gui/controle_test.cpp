@@ -68,7 +68,9 @@ TEST_F(Controle, EnablingTheVerdictAMessageThatLeadsToItsLineAndCancelDuringALon
     ASSERT_TRUE(kern::schrijfTekstBestand(pad, v.uitvoerTekst->GetValue()));
     EXPECT_TRUE(aan(CMakeControleID));
     wxRemoveFile(thuis + "/p/src/a.c"); // deleted after Add
-    klikOp(v.FindWindow(CMakeControleID)); // the harness first takes the splash screen away
+    app().geefSplash()->Destroy(); // it stays on top for its two seconds
+    wachtTot([this] { return app().geefSplash() == nullptr; }, "the splash screen to go");
+    klikIn(*v.FindWindow(CMakeControleID), wxEVT_BUTTON);
     auto* d = wxDynamicCast(wxWindow::FindWindowByName(CMakeControleDialoog::naam, &v), CMakeControleDialoog);
     ASSERT_NE(d, nullptr);
     d->Move(wxGetDisplaySize().x - d->GetSize().x, wxGetDisplaySize().y - d->GetSize().y);

@@ -18,23 +18,16 @@
 class Controle : public ProgrammaTest
 {
 protected:
-    // Until the display has the window where the toolkit thinks it is.
-    void wachtOpPlaats(wxWindow& w)
-    {
-        wachtTot([&] {
-            GdkRectangle r;
-            gdk_window_get_frame_extents(gtk_widget_get_window(w.GetHandle()), &r);
-            return wxPoint(r.x, r.y) == w.GetPosition();
-        }, "the window in its place");
-    }
-    // A real mouse click (or double click) on `punt` of `w` once it can take
-    // it; returns when `w` has sent `gevolg`.
+    // A real mouse click (or double click) on `punt` of `w` once it can take it; until `w` sends `gevolg`.
     void klikIn(wxWindow& w, wxEventType gevolg, wxPoint punt = wxDefaultPosition, bool dubbel = false)
     {
         auto* top = static_cast<wxTopLevelWindow*>(wxGetTopLevelParent(&w));
         top->Raise();
-        wachtTot([&] { return w.IsShownOnScreen() && w.IsEnabled() && top->IsActive(); }, "a control to click");
-        wachtOpPlaats(*top);
+        wachtTot([&] { // shown, enabled, and its window where the display has it
+            GdkRectangle r;
+            gdk_window_get_frame_extents(gtk_widget_get_window(top->GetHandle()), &r);
+            return w.IsShownOnScreen() && w.IsEnabled() && top->IsActive() && wxPoint(r.x, r.y) == top->GetPosition();
+        }, "a control to click");
         if (punt == wxDefaultPosition)
             punt = wxPoint(w.GetClientSize().x / 2, w.GetClientSize().y / 2);
         bool gezien = false;
@@ -54,12 +47,9 @@ protected:
 // One test for all mouse work: two at once would click into each other's windows.
 TEST_F(Controle, EnablingTheVerdictAMessageThatLeadsToItsLineAndCancelDuringALongBuild)
 {
-    wxSetEnv("TMPDIR", maakMap("tmp"));
     start();
     KlavermolVenster& v = venster();
     EXPECT_FALSE(aan(CMakeControleID)); // no saved file yet
-    v.SetSize(0, 0, wxGetDisplaySize().x, std::min(740, wxGetDisplaySize().y));
-    wachtOpPlaats(v);
     v.outputDirPicker->SetPath(maakMap("p"));
     std::size_t overgeslagen = 0;
     v.voegBronnenToe(wxSplit(maakBestand("p/main.c") + "," + maakBestand("p/src/a.c"), ','), overgeslagen);
@@ -68,12 +58,12 @@ TEST_F(Controle, EnablingTheVerdictAMessageThatLeadsToItsLineAndCancelDuringALon
     ASSERT_TRUE(kern::schrijfTekstBestand(pad, v.uitvoerTekst->GetValue()));
     EXPECT_TRUE(aan(CMakeControleID));
     wxRemoveFile(thuis + "/p/src/a.c"); // deleted after Add
-    app().geefSplash()->Destroy(); // it stays on top for its two seconds
+    if (wxSplashScreen* splash = app().geefSplash()) // it stays on top for its two seconds
+        splash->Destroy();
     wachtTot([this] { return app().geefSplash() == nullptr; }, "the splash screen to go");
     klikIn(*v.FindWindow(CMakeControleID), wxEVT_BUTTON);
     auto* d = wxDynamicCast(wxWindow::FindWindowByName(CMakeControleDialoog::naam, &v), CMakeControleDialoog);
     ASSERT_NE(d, nullptr);
-    d->Move(wxGetDisplaySize().x - d->GetSize().x, wxGetDisplaySize().y - d->GetSize().y);
     wachtTot([&] { return !d->bezig(); }, "the check to end");
     EXPECT_EQ(d->geefOordeel()->GetLabel(), "CMake stopped with 2 errors");
 

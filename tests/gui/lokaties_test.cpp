@@ -9,35 +9,20 @@
 #include <wx/filepicker.h>
 #include <wx/listbox.h>
 
-namespace {
-
-// Answers "Go somewhere else": GTK's chooser hands back its choice only from
-// the screen, so an OK puts the choice where the dialog keeps it.
+// GTK's chooser hands back its choice only from the screen: an OK finds it where the dialog keeps it.
 struct KiesMap : wxDirDialog
 {
-    static Antwoord<wxDirDialog> met(const wxString& pad)
-    {
-        return Antwoord<wxDirDialog>([=](wxDirDialog& dlg) {
-            dlg.*(&KiesMap::m_path) = pad;
-            return pad.empty() ? wxID_CANCEL : wxID_OK;
-        });
-    }
+    static wxString& pad(wxDirDialog& dlg) { return dlg.*(&KiesMap::m_path); }
 };
-
-} // namespace
 
 using Lokaties = ProgrammaTest;
 
-// A, B, C picked: index 3, so the first Back shows C again; Back at index 0
-// stays there; each step probes without recording. Every Add remembers its
-// directory, also when nothing was found; Home remembers home while the picker
-// shows its parent, Elsewhere the choice without the picker. Nine are kept,
-// newest first, none in the back/forward history. The dialog's OK waits for a
-// row; the row picked with OK goes into the picker, with Cancel nothing.
+// After A, B, C the first Back shows C again, Back at index 0 stays; steps probe without recording. Add (also
+// finding nothing), Home (home; the picker shows its parent) and Elsewhere (not the picker) are remembered, nine,
+// newest first, none in the back/forward history. The dialog's OK waits for a row; Cancel changes nothing.
 TEST_F(Lokaties, BackForwardAndTheRecentLocations)
 {
-    const wxString a = maakMap("A"), b = maakMap("B"), c = maakMap("C"), elders = maakMap("elders");
-    maakBestand("A/x.c");
+    const wxString a = wxPathOnly(maakBestand("A/x.c")), b = maakMap("B"), c = maakMap("C"), elders = maakMap("elders");
     start();
     KlavermolVenster& v = venster();
     v.voegCBestandenToe = true;
@@ -67,10 +52,12 @@ TEST_F(Lokaties, BackForwardAndTheRecentLocations)
         opdracht(soort, wxID_HOME);
         EXPECT_EQ(v.vindBestandenInDirs->GetPath(), wxFileName(thuis).GetPath());
     }
-    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(wxString()));
-    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(elders));
-    verwacht.Insert(thuis, 0);
-    verwacht.Insert(elders, 0);
+    for (const wxString& keuze : {wxString(), elders})
+        wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), Antwoord<wxDirDialog>([&](wxDirDialog& dlg) {
+                          return (KiesMap::pad(dlg) = keuze).empty() ? wxID_CANCEL : wxID_OK;
+                      }));
+    for (const wxString& map : {thuis, elders})
+        verwacht.Insert(map, 0);
     for (const int knop : {wxID_CANCEL, wxID_OK}) {
         wxTEST_DIALOG(klik(VorigeLokatieID), Antwoord<RecenteLokatieVenster>([&](RecenteLokatieVenster& dlg) {
                           EXPECT_EQ(dlg.GetTitle(), "Recent locations where you searched for CMake files");

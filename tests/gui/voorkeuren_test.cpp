@@ -60,24 +60,21 @@ protected:
     }
 };
 
-// Every other text stored (shown unexpanded), the rest default. Cancel hands nothing back; OK every text, emptied
-// ones too, for Execute and the next opening. The exit writes all but the shared and object library commands.
+// Every other text stored (shown unexpanded), the rest default. OK hands every text back, emptied ones too, for
+// Execute and the next opening; Cancel nothing. The exit writes all but the shared and object library commands.
 TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
 {
     const auto opgeslagen = [](const VeldRegel& v) { return (&v - velden) % 2 == 0; };
-    const auto eerst = [&](const VeldRegel& v) {
-        return opgeslagen(v) ? wxString("## stored $HOME ") + v.sleutel : kern::geefStandaardSjablonen().*v.lid;
-    };
-    const auto bevestigd = [](const VeldRegel& v) {
-        return v.pagina == 2 && v.bewaard ? wxString() : wxString("## confirmed ") + v.sleutel + "\n";
-    };
+    const auto eerst = [&](const VeldRegel& v) { return opgeslagen(v) ? wxString("## stored $HOME ") + v.sleutel
+                                                                      : kern::geefStandaardSjablonen().*v.lid; };
+    const auto bevestigd = [](const VeldRegel& v) { return v.pagina == 2 && v.bewaard ? wxString()
+                                                           : wxString("## confirmed ") + v.sleutel + "\n"; };
     std::string inhoud = "[Configuratie]\n";
     for (const VeldRegel& v : velden)
         if (opgeslagen(v))
             inhoud += std::string(v.sleutel) + "=" + eerst(v).ToStdString() + "\n";
     schrijfInstellingen(inhoud);
     start();
-    open(wxID_CANCEL, eerst, [](const VeldRegel&) { return wxString("edited"); });
     open(wxID_OK, eerst, bevestigd);
     venster().outputDirPicker->SetPath(thuis);
     klik(wxID_APPLY);

@@ -1,5 +1,4 @@
-// Locale set-up and catalogues per language, the language dialog, the about
-// box, and a chosen language that is in force at the next start.
+// Locale and catalogues per language, the language dialog, the about box, the restart in a new language.
 #include "gebruiker.h"
 #include "programma.h"
 
@@ -25,16 +24,8 @@ bool heeftLocale(const char* locale)
 
 // locale: "" for one the machine lacks; fouten: logged at error level, in order; katalogi: both catalogues
 // added; teksten: menus, pages, filter text, project name; stukken: in what Execute writes for a library.
-struct StartRegel
-{
-    const char *naam;
-    int taal;
-    const char* locale;
-    std::vector<wxString> fouten = {};
-    bool katalogi = false;
-    const char* teksten = "";
-    std::vector<wxString> stukken = {};
-};
+struct StartRegel { const char* naam; int taal; const char* locale; std::vector<wxString> fouten = {};
+                    bool katalogi = false; const char* teksten = ""; std::vector<wxString> stukken = {}; };
 
 // American English texts: another English needs the English catalogues;
 // French is a generated locale without catalogues of ours.
@@ -45,8 +36,7 @@ const StartRegel starts[] = {
                                          "Could not initialise the Internationalization Locale system forKlavermol."}},
     {"British", wxLANGUAGE_ENGLISH_UK, "en_GB.UTF-8", {}, true},
     {"German", wxLANGUAGE_GERMAN, "de_DE.UTF-8", {}, true, "Allgemein|Navigation|Optionen|Quelldateien|Bibliotheken|"
-     "Include-Dateien|Der aktuelle Filter sucht nach:|MeinErstesProjekt|", {"## Von Klavermol erzeugte CMakeLists-"
-     "add_library-Datei"}},
+     "Include-Dateien|Der aktuelle Filter sucht nach:|MeinErstesProjekt|", {"## Von Klavermol erzeugte CMakeLists"}},
     {"Dutch", wxLANGUAGE_DUTCH, "nl_NL.UTF-8", {}, true, "Algemeen|Navigatie|Opties|Bronbestanden|Bibliotheken|"
      "Includebestanden|Het huidige filter zoekt naar:|MijnEersteProject|", {"## Door Klavermol gemaakt CMakeLists-"
      "add_library-bestand\n## Bestand gemaakt op : ", "\n# minimale CMake-versie vastleggen.\ncmake_minimum_required("

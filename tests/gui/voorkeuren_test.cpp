@@ -27,14 +27,27 @@ const VeldRegel velden[] = {
 
 } // namespace
 
-class Voorkeuren : public ProgrammaTest
+using Voorkeuren = ProgrammaTest;
+
+// Every other text stored (shown unexpanded), the rest default. OK hands every text back, emptied ones too, for
+// Execute and the next opening; Cancel nothing. The exit writes all but the shared and object library commands.
+TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
 {
-protected:
+    const auto opgeslagen = [](const VeldRegel& v) { return (&v - velden) % 2 == 0; };
+    const auto eerst = [&](const VeldRegel& v) { return opgeslagen(v) ? wxString("## stored $HOME ") + v.sleutel
+                                                                      : kern::geefStandaardSjablonen().*v.lid; };
+    const auto bevestigd = [](const VeldRegel& v) { return v.pagina == 2 && v.bewaard ? wxString()
+                                                           : wxString("## confirmed ") + v.sleutel + "\n"; };
+    std::string inhoud = "[Configuratie]\n";
+    for (const VeldRegel& v : velden)
+        if (opgeslagen(v))
+            inhoud += std::string(v.sleutel) + "=" + eerst(v).ToStdString() + "\n";
+    schrijfInstellingen(inhoud);
+    start();
     // Opens the dialog from its menu: each field shows `getoond` on its page under its label;
     // the user presses Help (nothing happens), types `nieuw` in each field and presses `knop`.
-    void open(int knop, const std::function<wxString(const VeldRegel&)>& getoond,
-              const std::function<wxString(const VeldRegel&)>& nieuw)
-    {
+    const auto open = [&](int knop, const std::function<wxString(const VeldRegel&)>& getoond,
+                          const std::function<wxString(const VeldRegel&)>& nieuw) {
         wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_PREFERENCES), Antwoord<Preferences>([&](Preferences& dlg) {
             EXPECT_EQ(dlg.GetTitle(), "Preferences");
             wxBookCtrlBase* boek = dlg.GetBookCtrl();
@@ -57,24 +70,7 @@ protected:
         }));
         for (const VeldRegel& v : velden)
             EXPECT_EQ(venster().sjablonen.*v.lid, knop == wxID_OK ? nieuw(v) : getoond(v)) << v.sleutel;
-    }
-};
-
-// Every other text stored (shown unexpanded), the rest default. OK hands every text back, emptied ones too, for
-// Execute and the next opening; Cancel nothing. The exit writes all but the shared and object library commands.
-TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
-{
-    const auto opgeslagen = [](const VeldRegel& v) { return (&v - velden) % 2 == 0; };
-    const auto eerst = [&](const VeldRegel& v) { return opgeslagen(v) ? wxString("## stored $HOME ") + v.sleutel
-                                                                      : kern::geefStandaardSjablonen().*v.lid; };
-    const auto bevestigd = [](const VeldRegel& v) { return v.pagina == 2 && v.bewaard ? wxString()
-                                                           : wxString("## confirmed ") + v.sleutel + "\n"; };
-    std::string inhoud = "[Configuratie]\n";
-    for (const VeldRegel& v : velden)
-        if (opgeslagen(v))
-            inhoud += std::string(v.sleutel) + "=" + eerst(v).ToStdString() + "\n";
-    schrijfInstellingen(inhoud);
-    start();
+    };
     open(wxID_OK, eerst, bevestigd);
     venster().outputDirPicker->SetPath(thuis);
     klik(wxID_APPLY);
@@ -85,6 +81,5 @@ TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
     auto config = leesInstellingen();
     for (const VeldRegel& v : velden)
         EXPECT_EQ(config->Read(wxString("/Configuratie/") + v.sleutel, "missing"),
-                  v.bewaard ? bevestigd(v) : opgeslagen(v) ? eerst(v) : wxString("missing"))
-            << v.sleutel;
+                  v.bewaard ? bevestigd(v) : opgeslagen(v) ? eerst(v) : wxString("missing")) << v.sleutel;
 }

@@ -23,9 +23,10 @@ bool heeftLocale(const char* locale)
 }
 
 // locale: "" for one the machine lacks; fouten: logged at error level, in order; katalogi: both catalogues
-// added; teksten: menus, pages, filter text, project name; stukken: in what Execute writes for a library.
+// added; teksten: menus, pages, Quit and Preferences, Save, Clear and Quit, filter text, project name;
+// stukken: in what Execute writes for output `soort`.
 struct StartRegel { const char* naam; int taal; const char* locale; std::vector<wxString> fouten = {};
-                    bool katalogi = false; const char* teksten = ""; std::vector<wxString> stukken = {}; };
+                    bool katalogi = false; const char* teksten = ""; int soort = 0; std::vector<wxString> stukken = {}; };
 
 // American English texts: another English needs the English catalogues;
 // French is a generated locale without catalogues of ours.
@@ -36,11 +37,15 @@ const StartRegel starts[] = {
                                          "Could not initialise the Internationalization Locale system forKlavermol."}},
     {"British", wxLANGUAGE_ENGLISH_UK, "en_GB.UTF-8", {}, true},
     {"German", wxLANGUAGE_GERMAN, "de_DE.UTF-8", {}, true, "Allgemein|Navigation|Optionen|Quelldateien|Bibliotheken|"
-     "Include-Dateien|Der aktuelle Filter sucht nach:|MeinErstesProjekt|", {"## Von Klavermol erzeugte CMakeLists"}},
+     "Include-Dateien|Beenden\tCtrl+Q|Einstellungen\tCtrl+,|&Speichern|&Leeren|&Beenden|Der aktuelle Filter sucht "
+     "nach:|MeinErstesProjekt|", 0, {"## Von Klavermol erzeugte CMakeLists-Projektdatei\n## Datei erzeugt am : ",
+     "\n# Mindestversion von CMake festlegen.\ncmake_minimum_required(VERSION 2.8.10)\n",
+     "\n## Dieses Projekt braucht wahrscheinlich noch Feinarbeit"}},
     {"Dutch", wxLANGUAGE_DUTCH, "nl_NL.UTF-8", {}, true, "Algemeen|Navigatie|Opties|Bronbestanden|Bibliotheken|"
-     "Includebestanden|Het huidige filter zoekt naar:|MijnEersteProject|", {"## Door Klavermol gemaakt CMakeLists-"
-     "add_library-bestand\n## Bestand gemaakt op : ", "\n# minimale CMake-versie vastleggen.\ncmake_minimum_required("
-     "VERSION 2.8.10)\n", "# Het absolute pad van dit CMakeLists.txt-bestand is : \"HOME\"\n"}},
+     "Includebestanden|Afsluiten\tCtrl+Q|Voorkeuren\tCtrl+,|&Opslaan|&Wissen|&Afsluiten|Het huidige filter zoekt "
+     "naar:|MijnEersteProject|", 1, {"## Door Klavermol gemaakt CMakeLists-add_library-bestand\n## Bestand gemaakt op : ",
+     "\n# minimale CMake-versie vastleggen.\ncmake_minimum_required(VERSION 2.8.10)\n",
+     "# Het absolute pad van dit CMakeLists.txt-bestand is : \"HOME\"\n"}},
 };
 
 void PrintTo(const StartRegel& r, std::ostream* os) { *os << r.naam; }
@@ -113,10 +118,14 @@ TEST_P(TaalStart, LocaleCataloguesAndTexts)
     wxString teksten;
     for (int i = 0; i < 6; ++i)
         teksten += (i < 3 ? v.GetMenuBar()->GetMenuLabelText(i) : v.selektieBoek->GetPageText(i - 3)) + "|";
+    for (int id : {wxID_EXIT, wxID_PREFERENCES}) // the accelerator after the tab is the toolkit's
+        teksten += v.GetMenuBar()->FindItem(id)->GetItemLabel() + "|";
+    for (int id : {wxID_SAVE, wxID_CLEAR, wxID_EXIT})
+        teksten += v.FindWindow(id)->GetLabel() + "|";
     EXPECT_EQ(teksten + v.GetStatusBar()->GetStatusText(1) + "|" + v.projektLibIncludeNaam->GetValue() + "|", r.teksten);
     v.outputDirPicker->SetPath(thuis);
-    v.uitvoerSoortKeuze->SetSelection(1);
-    opdracht(wxEVT_CHOICE, UitvoerSoortKeuzeID, 1);
+    v.uitvoerSoortKeuze->SetSelection(r.soort);
+    opdracht(wxEVT_CHOICE, UitvoerSoortKeuzeID, r.soort);
     std::size_t overgeslagen = 0;
     v.voegBronnenToe(wxArrayString(1, thuis + "/src/a.c"), overgeslagen);
     klik(wxID_APPLY);

@@ -9,6 +9,8 @@
 
 struct StartRegel { const char *naam, *instellingen; int taal; bool hulp; const char *dataPad, *splash; };
 
+void PrintTo(const StartRegel& r, std::ostream* os) { *os << r.naam; }
+
 class StartEnEinde : public ProgrammaTest, public ::testing::WithParamInterface<StartRegel> {};
 using Start = ProgrammaTest;
 

@@ -9,47 +9,20 @@
 #include <wx/filepicker.h>
 #include <wx/listbox.h>
 
-namespace {
-
-// Answers "Go somewhere else": GTK's chooser hands back its choice only from
-// the screen, so an OK puts the choice where the dialog keeps it.
+// GTK's chooser hands back its choice only from the screen: an OK finds it where the dialog keeps it.
 struct KiesMap : wxDirDialog
 {
-    static Antwoord<wxDirDialog> met(const wxString& pad)
-    {
-        return Antwoord<wxDirDialog>([=](wxDirDialog& dlg) {
-            dlg.*(&KiesMap::m_path) = pad;
-            return pad.empty() ? wxID_CANCEL : wxID_OK;
-        });
-    }
+    static wxString& pad(wxDirDialog& dlg) { return dlg.*(&KiesMap::m_path); }
 };
 
-// The recent-locations dialog lists `paden` and OK waits for a row; the user
-// picks row `rij`, then presses the button `knop`.
-Antwoord<RecenteLokatieVenster> kiesRecent(const wxArrayString& paden, int rij, int knop)
-{
-    return Antwoord<RecenteLokatieVenster>([=](RecenteLokatieVenster& dlg) {
-        EXPECT_EQ(dlg.GetTitle(), "Recent locations where you searched for CMake files");
-        EXPECT_EQ(dlg.geefLijst()->GetStrings(), paden);
-        EXPECT_EQ(bedien(dlg, wxID_OK, [&] { dlg.geefLijst()->SetSelection(wxNOT_FOUND); }), wxID_NONE);
-        return bedien(dlg, knop, [&] { dlg.geefLijst()->SetSelection(rij); });
-    });
-}
+using Lokaties = ProgrammaTest;
 
-} // namespace
-
-class Lokaties : public ProgrammaTest
+// After A, B, C the first Back shows C again, Back at index 0 stays; steps probe without recording. Add (also
+// finding nothing), Home (home; the picker shows its parent) and Elsewhere (not the picker) are remembered, nine,
+// newest first, none in the back/forward history. The dialog's OK waits for a row; Cancel changes nothing.
+TEST_F(Lokaties, BackForwardAndTheRecentLocations)
 {
-protected:
-    wxString picker() { return venster().vindBestandenInDirs->GetPath(); }
-};
-
-// A, B, C picked: index 3, so the first Back shows C again; Back at index 0
-// stays there. Each step sets the picker and probes without recording.
-TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
-{
-    const wxString a = maakMap("A"), b = maakMap("B"), c = maakMap("C");
-    maakBestand("A/x.c");
+    const wxString a = wxPathOnly(maakBestand("A/x.c")), b = maakMap("B"), c = maakMap("C"), elders = maakMap("elders");
     start();
     KlavermolVenster& v = venster();
     v.voegCBestandenToe = true;
@@ -58,31 +31,15 @@ TEST_F(Lokaties, BackAndForwardWalkThePickedDirectories)
         kiesZoekMap(map);
     EXPECT_EQ(v.lokatieGeschiedenis.geefIndex(), 3u);
     EXPECT_FALSE(v.heeftCBestanden);
-    for (const wxString& map : {c, b, a}) {
-        klik(wxID_BACKWARD);
-        EXPECT_EQ(picker(), map);
+    const wxString terugNaar[] = {c, b, a, a};
+    for (int i = 0; i < 4; ++i) {
+        wxCommandEvent terug(wxEVT_BUTTON, wxID_BACKWARD);
+        i < 3 ? klik(wxID_BACKWARD) : v.OnBACKWARDClick(terug); // the button is off at index 0
+        EXPECT_EQ(v.vindBestandenInDirs->GetPath(), terugNaar[i]) << i;
     }
     EXPECT_TRUE(v.heeftCBestanden);
-    wxCommandEvent terug(wxEVT_BUTTON, wxID_BACKWARD);
-    v.OnBACKWARDClick(terug); // the button is off at index 0; the handler stays there
-    EXPECT_EQ(picker(), a);
     klik(wxID_FORWARD);
-    EXPECT_EQ(picker(), b);
-    EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 3u);
-}
-
-// Every Add remembers its directory, also when nothing was found; Home
-// remembers home while the picker shows its parent, Elsewhere remembers
-// the choice and leaves the picker. Nine are kept and offered newest first;
-// none enters the back/forward history. A row picked with OK goes into the
-// picker; with Cancel nothing changes.
-TEST_F(Lokaties, TheRecentLocationsKeepNineAndOfferThemNewestFirst)
-{
-    const wxString elders = maakMap("elders"), boven = wxFileName(thuis).GetPath();
-    start();
-    KlavermolVenster& v = venster();
-    v.voegCBestandenToe = true;
-    v.voegToeModeKeuze->SetSelection(1);
+    EXPECT_EQ(v.vindBestandenInDirs->GetPath(), b);
     wxArrayString verwacht;
     for (int i = 0; i < 9; ++i) {
         v.vindBestandenInDirs->SetPath(maakMap(wxString::Format("d%d", i)));
@@ -93,15 +50,23 @@ TEST_F(Lokaties, TheRecentLocationsKeepNineAndOfferThemNewestFirst)
     for (wxEventType soort : {wxEVT_MENU, wxEVT_BUTTON}) {
         v.vindBestandenInDirs->SetPath(elders);
         opdracht(soort, wxID_HOME);
-        EXPECT_EQ(picker(), boven);
+        EXPECT_EQ(v.vindBestandenInDirs->GetPath(), wxFileName(thuis).GetPath());
     }
-    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(wxString()));
-    wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), KiesMap::met(elders));
-    verwacht.Insert(thuis, 0);
-    verwacht.Insert(elders, 0);
-    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(verwacht, 1, wxID_CANCEL));
-    EXPECT_EQ(picker(), boven);
-    wxTEST_DIALOG(klik(VorigeLokatieID), kiesRecent(verwacht, 0, wxID_OK));
-    EXPECT_EQ(picker(), elders);
-    EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 0u);
+    for (const wxString& keuze : {wxString(), elders})
+        wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_MORE), Antwoord<wxDirDialog>([&](wxDirDialog& dlg) {
+                          return (KiesMap::pad(dlg) = keuze).empty() ? wxID_CANCEL : wxID_OK;
+                      }));
+    for (const wxString& map : {thuis, elders})
+        verwacht.Insert(map, 0);
+    for (const int knop : {wxID_CANCEL, wxID_OK}) {
+        wxTEST_DIALOG(klik(VorigeLokatieID), Antwoord<RecenteLokatieVenster>([&](RecenteLokatieVenster& dlg) {
+                          EXPECT_EQ(dlg.GetTitle(), "Recent locations where you searched for CMake files");
+                          wxListBox* lijst = dlg.geefLijst();
+                          EXPECT_EQ(lijst->GetStrings(), verwacht);
+                          EXPECT_EQ(bedien(dlg, wxID_OK, [&] { lijst->SetSelection(wxNOT_FOUND); }), wxID_NONE);
+                          return bedien(dlg, knop, [&] { lijst->SetSelection(knop == wxID_OK ? 1 : 0); });
+                      }));
+        EXPECT_EQ(v.vindBestandenInDirs->GetPath(), knop == wxID_OK ? thuis : wxFileName(thuis).GetPath());
+    }
+    EXPECT_EQ(v.lokatieGeschiedenis.geefAantal(), 3u);
 }

@@ -1,6 +1,4 @@
-// The preferences dialog: its pages and labels, and how OK and Cancel hand
-// the nine templates back to the main window, to the generated text and on
-// to the settings file.
+// The preferences dialog: how OK and Cancel hand the nine templates on.
 #include "gebruiker.h"
 #include "programma.h"
 
@@ -13,15 +11,8 @@
 
 namespace {
 
-struct VeldRegel
-{
-    Preferences::Veld lid;
-    const char* sleutel; // under "/Configuratie"
-    int pagina;
-    const char* label; // of its box, or of its grid row
-    bool bewaard;      // written at exit
-};
-
+// A field, its key under "/Configuratie", its page, the label of its box or grid row, whether the exit writes it.
+struct VeldRegel { Preferences::Veld lid; const char* sleutel; int pagina; const char* label; bool bewaard; };
 const VeldRegel velden[] = {
     {&kern::Sjablonen::kopieerrechtMededeling, "KopieerrechtMededeling", 0, "Copyright notice", true},
     {&kern::Sjablonen::projektKommando, "ProjektKommando", 1, "Projekt generation command ", true},
@@ -34,90 +25,61 @@ const VeldRegel velden[] = {
     {&kern::Sjablonen::includeKommando, "IncludeKommando", 3, "Include generation command ", true},
 };
 
-// The label of its box, or of its grid row.
-wxString labelVan(wxTextCtrl* tekst)
-{
-    auto* kader = dynamic_cast<wxStaticBox*>(tekst->GetParent());
-    return kader ? kader->GetLabel() : tekst->GetPrevSibling()->GetLabel();
-}
-
 } // namespace
 
-class Voorkeuren : public ProgrammaTest
-{
-protected:
-    // Opens the dialog from its menu item; `handeling` works the shown
-    // dialog, then the user clicks `knop`.
-    void open(int knop, const std::function<void(Preferences&)>& handeling)
-    {
-        wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_PREFERENCES), Antwoord<Preferences>([&](Preferences& dlg) {
-                          return bedien(dlg, knop, [&] { handeling(dlg); });
-                      }));
-    }
+using Voorkeuren = ProgrammaTest;
 
-    // The window holds, and the dialog (if given) shows, `waarde` for every field.
-    void verwachtOveral(Preferences* dlg, const std::function<wxString(const VeldRegel&)>& waarde)
-    {
-        for (const VeldRegel& v : velden) {
-            EXPECT_EQ(venster().sjablonen.*v.lid, waarde(v)) << v.sleutel;
-            if (dlg != nullptr)
-                EXPECT_EQ(dlg->geefTekst(v.lid)->GetValue(), waarde(v)) << v.sleutel;
-        }
-    }
-};
-
-// Every other text is stored: shown as stored (nothing expanded), the others
-// as the defaults, each on its page under its label. Help does nothing and
-// Cancel after editing hands nothing back; OK takes every text as it is,
-// emptied ones too, for Execute and the next opening. The exit writes all
-// but the shared and object library commands.
+// Every other text stored (shown unexpanded), the rest default. OK hands every text back, emptied ones too, for
+// Execute and the next opening; Cancel nothing. The exit writes all but the shared and object library commands.
 TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
 {
     const auto opgeslagen = [](const VeldRegel& v) { return (&v - velden) % 2 == 0; };
-    const auto eerst = [&](const VeldRegel& v) {
-        return opgeslagen(v) ? wxString("## stored $HOME ") + v.sleutel : kern::geefStandaardSjablonen().*v.lid;
-    };
-    const auto bevestigd = [](const VeldRegel& v) {
-        return v.pagina == 2 && v.bewaard ? wxString() : wxString("## confirmed ") + v.sleutel + "\n";
-    };
+    const auto eerst = [&](const VeldRegel& v) { return opgeslagen(v) ? wxString("## stored $HOME ") + v.sleutel
+                                                                      : kern::geefStandaardSjablonen().*v.lid; };
+    const auto bevestigd = [](const VeldRegel& v) { return v.pagina == 2 && v.bewaard ? wxString()
+                                                           : wxString("## confirmed ") + v.sleutel + "\n"; };
     std::string inhoud = "[Configuratie]\n";
     for (const VeldRegel& v : velden)
         if (opgeslagen(v))
             inhoud += std::string(v.sleutel) + "=" + eerst(v).ToStdString() + "\n";
     schrijfInstellingen(inhoud);
     start();
-    open(wxID_CANCEL, [&](Preferences& dlg) {
-        EXPECT_EQ(dlg.GetTitle(), "Preferences");
-        wxBookCtrlBase* boek = dlg.GetBookCtrl();
-        const char* titels[] = {"General", "CMake Project cmd", "CMake Library cmd", "CMake Include cmd"};
-        ASSERT_EQ(boek->GetPageCount(), 4u);
-        for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(boek->GetPageText(i), titels[i]);
-        for (const VeldRegel& v : velden) {
-            EXPECT_TRUE(boek->GetPage(v.pagina)->IsDescendant(dlg.geefTekst(v.lid))) << v.sleutel;
-            EXPECT_EQ(labelVan(dlg.geefTekst(v.lid)), v.label) << v.sleutel;
-            const bool naam = v.lid == &kern::Sjablonen::biebLibNaam || v.lid == &kern::Sjablonen::biebIncludeNaam;
-            EXPECT_EQ(dlg.geefTekst(v.lid)->IsMultiLine(), !naam) << v.sleutel; // the names take one line
-            dlg.geefTekst(v.lid)->SetValue("edited");
-        }
-        EXPECT_EQ(bedien(dlg, wxID_HELP, [] {}), wxID_NONE);
-    });
-    open(wxID_OK, [&](Preferences& dlg) {
-        verwachtOveral(&dlg, eerst);
+    // Opens the dialog from its menu: each field shows `getoond` on its page under its label;
+    // the user presses Help (nothing happens), types `nieuw` in each field and presses `knop`.
+    const auto open = [&](int knop, const std::function<wxString(const VeldRegel&)>& getoond,
+                          const std::function<wxString(const VeldRegel&)>& nieuw) {
+        wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_PREFERENCES), Antwoord<Preferences>([&](Preferences& dlg) {
+            EXPECT_EQ(dlg.GetTitle(), "Preferences");
+            wxBookCtrlBase* boek = dlg.GetBookCtrl();
+            wxString paginas;
+            for (std::size_t i = 0; i < boek->GetPageCount(); ++i)
+                paginas += boek->GetPageText(i) + wxString::Format(" %d|", boek->GetPageImage(i));
+            EXPECT_EQ(paginas, "General 0|CMake Project cmd 1|CMake Library cmd 2|CMake Include cmd 3|");
+            return bedien(dlg, knop, [&] {
+                EXPECT_EQ(bedien(dlg, wxID_HELP, [] {}), wxID_NONE);
+                for (const VeldRegel& v : velden) {
+                    wxTextCtrl* tekst = dlg.geefTekst(v.lid);
+                    auto* kader = dynamic_cast<wxStaticBox*>(tekst->GetParent());
+                    EXPECT_TRUE(boek->GetPage(v.pagina)->IsDescendant(tekst)) << v.sleutel;
+                    EXPECT_EQ(kader ? kader->GetLabel() : tekst->GetPrevSibling()->GetLabel(), v.label);
+                    EXPECT_EQ(tekst->IsMultiLine(), v.pagina != 2 || !kader) << v.sleutel; // names: one line
+                    EXPECT_EQ(tekst->GetValue(), getoond(v)) << v.sleutel;
+                    tekst->SetValue(nieuw(v));
+                }
+            });
+        }));
         for (const VeldRegel& v : velden)
-            dlg.geefTekst(v.lid)->SetValue(bevestigd(v));
-    });
-    verwachtOveral(nullptr, bevestigd);
+            EXPECT_EQ(venster().sjablonen.*v.lid, knop == wxID_OK ? nieuw(v) : getoond(v)) << v.sleutel;
+    };
+    open(wxID_OK, eerst, bevestigd);
     venster().outputDirPicker->SetPath(thuis);
     klik(wxID_APPLY);
-    const wxString tekst = venster().uitvoerTekst->GetValue();
     for (const char* stuk : {"## confirmed KopieerrechtMededeling\n", "\n## confirmed ProjektKommando\n"})
-        EXPECT_NE(tekst.Find(stuk), wxNOT_FOUND) << stuk;
-    open(wxID_CANCEL, [&](Preferences& dlg) { verwachtOveral(&dlg, bevestigd); });
+        EXPECT_NE(venster().uitvoerTekst->GetValue().Find(stuk), wxNOT_FOUND) << stuk;
+    open(wxID_CANCEL, bevestigd, eerst);
     stop();
     auto config = leesInstellingen();
     for (const VeldRegel& v : velden)
         EXPECT_EQ(config->Read(wxString("/Configuratie/") + v.sleutel, "missing"),
-                  v.bewaard ? bevestigd(v) : opgeslagen(v) ? eerst(v) : wxString("missing"))
-            << v.sleutel;
+                  v.bewaard ? bevestigd(v) : opgeslagen(v) ? eerst(v) : wxString("missing")) << v.sleutel;
 }

@@ -94,8 +94,8 @@ TEST_F(Draden, TheSourceListActsOnTheStoreAndACancelledAddLeavesIt)
         gevonden.Add("/te/laat.c"); // what a walk that missed the stop would hand back
         return true;
     };
-    wxCommandEvent voegToe(wxEVT_BUTTON, wxID_ADD); // not awaited: it ends only when cancelled
-    v.ProcessWindowEvent(voegToe);
+    wxCommandEvent voegToe(wxEVT_BUTTON, wxID_ADD);
+    v.ProcessWindowEvent(voegToe); // not awaited: it ends only when cancelled
     wachtTot([&] { return v.voortgangDialoog != nullptr && v.voortgangDialoog->IsShownOnScreen(); }, "the progress");
     EXPECT_TRUE(v.voortgangDialoog->GetMessage().StartsWith("7 directories and 0 files so far"))
         << v.voortgangDialoog->GetMessage();

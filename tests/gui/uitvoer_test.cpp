@@ -162,28 +162,17 @@ TEST_F(Uitvoer, SaveFaultsShowTheErrorWithItsReasonAndKeepTheText)
     EXPECT_EQ(leesBytes(doel), "oud");
 }
 
-namespace {
-
 // What klavermol-cli prints for these arguments.
-std::string cliTekst(const std::string& argumenten)
+static std::string cliTekst(const std::string& argumenten)
 {
-    const std::string aanroep = std::string(KLAVERMOL_BIN_DIR) + "/klavermol-cli " + argumenten + " 2>/dev/null";
     std::string uit;
-    if (FILE* pijp = popen(aanroep.c_str(), "r")) {
-        char blok[4096];
-        for (std::size_t n; (n = std::fread(blok, 1, sizeof blok, pijp)) > 0;)
-            uit.append(blok, n);
+    if (FILE* pijp = popen((std::string(KLAVERMOL_BIN_DIR) + "/klavermol-cli " + argumenten + " 2>/dev/null").c_str(), "r")) {
+        for (int c; (c = std::fgetc(pijp)) != EOF;)
+            uit += static_cast<char>(c);
         pclose(pijp);
     }
     return uit;
 }
-
-std::string metQuotes(const wxString& pad)
-{
-    return "'" + pad.ToStdString() + "'";
-}
-
-} // namespace
 
 // States reached through the window, every kind, the location typed, browsed
 // or reached with Back, one entry unchecked: Execute shows what klavermol-cli
@@ -199,6 +188,7 @@ TEST_F(Uitvoer, ExecuteShowsWhatTheCommandLineProgramPrintsForTheSameState)
             maakBestand(map + "/" + map.AfterLast('/') + namen[kans() % namen.size()]);
     start();
     KlavermolVenster& v = venster();
+    const auto metQuotes = [](const wxString& pad) { return "'" + pad.ToStdString() + "'"; };
     const char* const soorten[] = {"project", "library", "include"};
     const std::pair<int, const char*> families[] = {
         {VoegCBestandenToeID, " --c"}, {VoegCPPBestandenToeID, " --cpp"}, {VoegHBestandenToeID, " --h"}, {VoegSBestandenToeID, " --asm"}};

@@ -11,30 +11,7 @@
 
 #include <thread>
 
-namespace {
-
-class Draden : public ProgrammaTest
-{
-protected:
-    // A real click (or double click) at `plek` in `w`, the pointer coming in from outside.
-    static void muisOp(wxWindow* w, const wxPoint& plek, bool dubbel = false)
-    {
-        wxUIActionSimulator muis;
-        muis.MouseMove(0, 0);
-        muis.MouseMove(w->ClientToScreen(plek));
-        dubbel ? muis.MouseDblClick() : muis.MouseClick();
-    }
-
-    // The program with every button in sight and no tip over them.
-    void startVrij()
-    {
-        start();
-        klikOp(venster().GetStatusBar(), wxEVT_LEFT_UP); // the window takes the keyboard
-        wxToolTip::Enable(false);
-        venster().SetSize(wxGetDisplaySize());
-        wachtTot([&] { return venster().GetSize().y > 700; }, "the full size");
-    }
-};
+using Draden = ProgrammaTest;
 
 // The slow probe of the first pick ends only when stopped, and then claims
 // C files: the second pick's answer must be the one that stays.
@@ -46,35 +23,68 @@ TEST_F(Draden, ALaterPickWinsOverAnEarlierSlowProbe)
     v.uitvoerSoortKeuze->SetSelection(1); // a library: the probe sets the output directory
     v.voegCBestandenToe = true;
     v.voegToeModeKeuze->SetSelection(1);
-    v.onderzoeker = [](const wxString& map, int, const kern::Families&, kern::Aanwezig& vlaggen,
-                       kern::Voortgang* voortgang) {
-        while (map.Contains("traag") && !voortgang->isAfgebroken())
+    v.onderzoeker = [](const wxString& map, int, const kern::Families&, kern::Aanwezig& vlaggen, kern::Voortgang* af) {
+        while (map.Contains("traag") && !af->isAfgebroken())
             std::this_thread::yield();
-        vlaggen.c = map.Contains("traag");
-        return true;
+        return vlaggen.c = map.Contains("traag"), true;
     };
     v.vindBestandenInDirs->SetPath(traag); // picked, not awaited: its probe ends only when stopped
     wxFileDirPickerEvent gekozen(wxEVT_DIRPICKER_CHANGED, v.vindBestandenInDirs, VindBestandenInDirsID, traag);
     v.ProcessWindowEvent(gekozen);
     kiesZoekMap(snel);
-    EXPECT_FALSE(v.heeftCBestanden);
-    EXPECT_EQ(v.outputDirPicker->GetPath(), snel);
+    EXPECT_EQ(wxString::Format("%d|", v.heeftCBestanden) + v.outputDirPicker->GetPath(), "0|" + snel);
 }
 
-// Past half a second the walk shows its counts with a Cancel button; Cancel
-// leaves the list, the status line and the recent locations as they were.
-TEST_F(Draden, CancelledAddLeavesEverythingAsItWas)
+// Real clicks on a check box, the space bar, a double click and Select all
+// change the store, and the view shows it. Past half a second an Add's walk
+// shows its counts with a Cancel button; Cancel leaves the list, the status
+// line and the recent locations as they were.
+TEST_F(Draden, TheSourceListActsOnTheStoreAndACancelledAddLeavesIt)
 {
-    maakBestand("d/a.c");
-    startVrij();
+    start();
     KlavermolVenster& v = venster();
-    opdracht(wxEVT_CHECKBOX, VoegCBestandenToeID);
-    v.voegToeModeKeuze->SetSelection(1);
-    kiesZoekMap(thuis + "/d");
-    klik(wxID_ADD);
-    ASSERT_EQ(v.bestandSelektieLijst->GetItemCount(), 1);
-    const wxString status = v.GetStatusBar()->GetStatusText(0);
+    klikOp(v.GetStatusBar(), wxEVT_LEFT_UP); // the window takes the keyboard; every button in sight, no tips
+    wxToolTip::Enable(false);
+    v.SetSize(wxGetDisplaySize());
+    wachtTot([&] { return v.GetSize().y > 700; }, "the full size");
+    const auto muisOp = [](wxWindow* w, const wxPoint& plek, bool dubbel) { // the pointer coming in from outside
+        wxUIActionSimulator muis;
+        muis.MouseMove(0, 0);
+        muis.MouseMove(w->ClientToScreen(plek));
+        dubbel ? muis.MouseDblClick() : muis.MouseClick();
+    };
+    std::size_t overgeslagen = 0;
+    v.voegBronnenToe(wxSplit("/p/a/x.c,/p/a/y.h,/p/a/sub/z.c,/p/b/x.c", ','), overgeslagen);
+    BronLijstWeergave* lijst = v.bestandSelektieLijst;
+    verwerk();
+    const auto wordt = [&](const char* verwacht) { // as the view shows them, which must be as the store has them
+        wachtTot([&] {
+            wxString s;
+            for (long i = 0; i < lijst->GetItemCount(); ++i)
+                s += lijst->IsItemChecked(i) != v.bronSelektie.isAangevinkt(i) ? '?' : lijst->IsItemChecked(i) ? '1' : '0';
+            return s == verwacht;
+        }, verwacht);
+    };
+    const auto opRij = [&](long i, bool vakje, bool dubbel = false) {
+        wxRect r;
+        lijst->GetItemRect(i, r);
+        muisOp(lijst, wxPoint(vakje ? r.x + r.height / 2 + 2 : r.GetRight() - 10, r.y + r.height / 2), dubbel);
+    };
+    opRij(1, true); // y.h's box
+    wordt("1011");
+    opRij(1, false);
+    wxUIActionSimulator().Char(' '); // the current row: y.h
+    wordt("1111");
+    opRij(0, false, true); // the double-clicked entry's directory flips, each entry on its own
+    wordt("0011");
+    for (const char* verwacht : {"1111", "0000"}) {
+        klikOp(v.selekteerAllesKnop, wxEVT_TOGGLEBUTTON);
+        wordt(verwacht);
+    }
+    EXPECT_FALSE(lijst->IsFrozen());
 
+    const wxString status = v.GetStatusBar()->GetStatusText(0);
+    v.voegToeModeKeuze->SetSelection(1);
     v.verzamelaar = [](const wxString&, int, const kern::Families&, wxArrayString& gevonden, std::size_t*,
                        kern::Voortgang* voortgang) {
         voortgang->mappen = 7;
@@ -83,59 +93,15 @@ TEST_F(Draden, CancelledAddLeavesEverythingAsItWas)
         gevonden.Add("/te/laat.c"); // what a walk that missed the stop would hand back
         return true;
     };
-    wxCommandEvent voegToe(wxEVT_BUTTON, wxID_ADD); // not awaited: it ends only when cancelled
-    v.ProcessWindowEvent(voegToe);
+    wxCommandEvent voegToe(wxEVT_BUTTON, wxID_ADD);
+    v.ProcessWindowEvent(voegToe); // not awaited: it ends only when cancelled
     wachtTot([&] { return v.voortgangDialoog != nullptr && v.voortgangDialoog->IsShownOnScreen(); }, "the progress");
     EXPECT_TRUE(v.voortgangDialoog->GetMessage().StartsWith("7 directories and 0 files so far"))
         << v.voortgangDialoog->GetMessage();
     const wxWindow* annuleer = v.voortgangDialoog->FindWindow(wxID_CANCEL);
-    muisOp(v.voortgangDialoog, annuleer->GetPosition() + annuleer->GetSize() / 2);
+    muisOp(v.voortgangDialoog, annuleer->GetPosition() + annuleer->GetSize() / 2, false);
     wachtTot([&] { return !v.isBezig(); }, "the cancelled walk");
     EXPECT_EQ(v.voortgangDialoog, nullptr);
-    EXPECT_EQ(v.bestandSelektieLijst->GetItemCount(), 1);
+    EXPECT_EQ(v.bronSelektie.aantal() * 10 + v.recenteLokaties.GetCount(), 40u);
     EXPECT_EQ(v.GetStatusBar()->GetStatusText(0), status);
-    EXPECT_EQ(v.recenteLokaties.GetCount(), 1u);
 }
-
-// Real clicks on a check box, the space bar, a double click, Select all and
-// Clear: each changes the store, and the view shows it.
-TEST_F(Draden, TheSourceListActsOnTheStore)
-{
-    startVrij();
-    KlavermolVenster& v = venster();
-    std::size_t overgeslagen = 0;
-    v.voegBronnenToe(wxSplit("/p/a/x.c,/p/a/y.h,/p/a/sub/z.c,/p/b/x.c", ','), overgeslagen);
-    BronLijstWeergave* lijst = v.bestandSelektieLijst;
-    verwerk();
-    const auto vinkjes = [&] { // as the view shows them, which must be as the store has them
-        wxString s;
-        for (long i = 0; i < lijst->GetItemCount(); ++i)
-            s += lijst->IsItemChecked(i) == v.bronSelektie.isAangevinkt(i) ? lijst->IsItemChecked(i) ? '1' : '0' : '?';
-        return s;
-    };
-    const auto wordt = [&](const char* verwacht) {
-        wachtTot([&] { return vinkjes() == verwacht; }, verwacht);
-    };
-    const auto opRij = [&](long i, bool vakje, bool dubbel = false) {
-        wxRect r;
-        lijst->GetItemRect(i, r);
-        muisOp(lijst, wxPoint(vakje ? r.x + r.height / 2 + 2 : r.GetRight() - 10, r.y + r.height / 2), dubbel);
-    };
-
-    opRij(1, true); // y.h's box
-    wordt("1011");
-    opRij(1, false);
-    wxUIActionSimulator().Char(' '); // the current row: y.h
-    wordt("1111");
-    opRij(0, false, true); // the double-clicked entry's directory flips, each entry on its own
-    wordt("0011");
-    klikOp(v.selekteerAllesKnop, wxEVT_TOGGLEBUTTON);
-    wordt("1111");
-    klikOp(v.selekteerAllesKnop, wxEVT_TOGGLEBUTTON);
-    wordt("0000");
-    klikOp(v.FindWindow(wxID_CLEAR));
-    EXPECT_EQ(v.bronSelektie.aantal(), 0u);
-    EXPECT_EQ(lijst->GetItemCount(), 0);
-}
-
-} // namespace

@@ -20,10 +20,14 @@
 class Venster : public ProgrammaTest
 {
 protected:
-    bool menuAan(int id)
+    // '1' or '0' per id: enabled, as a control or (from `menuVanaf` on) as a menu item.
+    std::string aanRij(std::initializer_list<int> ids, std::size_t menuVanaf = 99)
     {
         venster().DoMenuUpdates();
-        return venster().GetMenuBar()->IsEnabled(id);
+        std::string s;
+        for (int id : ids)
+            s += (s.size() < menuVanaf ? aan(id) : venster().GetMenuBar()->IsEnabled(id)) ? '1' : '0';
+        return s;
     }
 };
 
@@ -32,24 +36,19 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
     start();
     KlavermolVenster& v = venster();
     EXPECT_TRUE(wxFileName::DirName(v.vindBestandenInDirs->GetPath()).SameAs(wxFileName::DirName(thuis)));
-    for (const wxString& pad : {v.outputDirPicker->GetPath(), v.vindCMakeSubDir->GetPath(),
-                                v.vindCMakeIncludeDir->GetPath()})
-        EXPECT_EQ(pad, thuis);
-    EXPECT_EQ(v.projektLibIncludeNaam->GetValue(), "MyFirstProject");
-    EXPECT_EQ(v.bestandNaamTekst->GetValue(), "CMakeLists.txt");
-    EXPECT_EQ(v.voegToeModeKeuze->GetStringSelection(), "One or more files in the directory");
-    EXPECT_EQ(v.uitsluitTerm->GetValue(), "template");
-    EXPECT_EQ(v.uitvoerSoortKeuze->GetStringSelection(), "CMake Project");
-    EXPECT_EQ(v.naamKader->GetLabel(), "Project name");
     wxMenuBar* menu = v.GetMenuBar();
-    for (int id : {VoegCBestandenToeID, VoegCPPBestandenToeID, VoegHBestandenToeID, VoegSBestandenToeID}) {
-        EXPECT_FALSE(menu->IsChecked(id)) << id;
-        EXPECT_FALSE(static_cast<wxCheckBox*>(v.FindWindow(id))->GetValue()) << id;
-    }
-    EXPECT_TRUE(menu->IsChecked(AutoZetUitvoerDirID));
-    EXPECT_NE(v.vindBestandenInDirs->GetDropTarget(), nullptr);
+    std::string vinkjes; // the file-type switches in the menu and as boxes, then F2
+    for (int id : {VoegCBestandenToeID, VoegCPPBestandenToeID, VoegHBestandenToeID, VoegSBestandenToeID})
+        vinkjes += menu->IsChecked(id) || static_cast<wxCheckBox*>(v.FindWindow(id))->GetValue() ? '1' : '0';
+    EXPECT_EQ(vinkjes + (menu->IsChecked(AutoZetUitvoerDirID) ? '1' : '0'), "00001");
 
     const std::pair<wxString, wxString> teksten[] = {
+        {v.outputDirPicker->GetPath() + v.vindCMakeSubDir->GetPath() + v.vindCMakeIncludeDir->GetPath(),
+         thuis + thuis + thuis},
+        {v.projektLibIncludeNaam->GetValue() + "|" + v.bestandNaamTekst->GetValue() + "|" + v.uitsluitTerm->GetValue(),
+         "MyFirstProject|CMakeLists.txt|template"},
+        {v.voegToeModeKeuze->GetStringSelection(), "One or more files in the directory"},
+        {v.uitvoerSoortKeuze->GetStringSelection() + "|" + v.naamKader->GetLabel(), "CMake Project|Project name"},
         {v.GetStatusBar()->GetStatusText(0), "Welkom bij Klavermol !!"},
         {v.GetStatusBar()->GetStatusText(1), "Current filter searches for:"},
         {v.selekteerAllesKnop->GetLabel(), "Select all"},
@@ -68,13 +67,9 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
     };
     for (const auto& [getoond, verwacht] : teksten)
         EXPECT_EQ(getoond, verwacht);
-    EXPECT_EQ(menu->GetMenuCount(), 3u);
-    EXPECT_EQ(v.selektieBoek->GetPageCount(), 3u);
 
-    // the images were found; every picture is drawn from its file at its own
-    // size: see-through at the corner and solid over a good part of its square
-    EXPECT_TRUE(v.GetIcon().IsOk());
-    EXPECT_TRUE(menu->FindItem(ZetTaalID)->GetBitmap().IsOk());
+    // each picture from its file at its own size: see-through corner, solid over a good part
+    EXPECT_TRUE(v.GetIcon().IsOk() && menu->FindItem(ZetTaalID)->GetBitmap().IsOk());
     for (int id : std::initializer_list<int>{wxID_HOME, VorigeLokatieID, wxID_BACKWARD, wxID_FORWARD, wxID_ADD,
                                             VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, wxID_APPLY})
         EXPECT_TRUE(static_cast<wxBitmapButton*>(v.FindWindow(id))->GetBitmap().IsOk()) << id;
@@ -94,8 +89,7 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
     }
 }
 
-// A pre-written store is restored into every control and written back as it
-// was at exit.
+// A pre-written store is restored into every control and written back as it was at exit.
 TEST_F(Venster, TheStoreIsRestoredIntoEveryControlAndWrittenBackInFull)
 {
     const wxString bron = maakMap("bron"), uit = maakMap("uit");
@@ -112,22 +106,18 @@ TEST_F(Venster, TheStoreIsRestoredIntoEveryControlAndWrittenBackInFull)
     schrijfInstellingen(tekst);
     start();
     KlavermolVenster& v = venster();
-    EXPECT_EQ(v.vindBestandenInDirs->GetPath(), bron);
-    EXPECT_EQ(v.outputDirPicker->GetPath(), uit); // the automatic output directory is off
-    EXPECT_EQ(v.projektLibIncludeNaam->GetValue(), "Motor met spatie");
-    EXPECT_EQ(v.uitvoerSoortKeuze->GetSelection(), 2);
-    EXPECT_EQ(v.naamKader->GetLabel(), "Include name");
-    EXPECT_EQ(v.cmakeProjektKeuze->GetSelection(), 1);
-    EXPECT_EQ(v.cmakeBiebKeuze->GetSelection(), 2);
-    EXPECT_EQ(v.bestandNaamTekst->GetValue(), "Motor.cmake");
-    EXPECT_EQ(v.voegToeModeKeuze->GetSelection(), 2);
-    EXPECT_TRUE(v.subDirHeeftCMakeLists && v.includeIsCMake);
-    EXPECT_FALSE(v.GetMenuBar()->IsChecked(AutoZetUitvoerDirID));
-    EXPECT_TRUE(v.GetMenuBar()->IsChecked(VoegHBestandenToeID));
-    EXPECT_FALSE(v.GetMenuBar()->IsChecked(VoegCPPBestandenToeID));
-    EXPECT_EQ(v.GetStatusBar()->GetStatusText(1), "Current filter searches for: C  H  S ");
-    EXPECT_EQ(v.uitsluitTerm->GetValue(), "test");
-    ASSERT_EQ(v.recenteLokaties.GetCount(), 2u);
+    wxMenuBar* m = v.GetMenuBar();
+    // the output directory as stored: the automatic one is off
+    EXPECT_EQ(wxString::Format("%s|%s|%s|%d%d%d%d|%s|%s|%d%d%d%d%d|%s|%s|%zu", v.vindBestandenInDirs->GetPath(),
+                               v.outputDirPicker->GetPath(), v.projektLibIncludeNaam->GetValue(),
+                               v.uitvoerSoortKeuze->GetSelection(), v.cmakeProjektKeuze->GetSelection(),
+                               v.cmakeBiebKeuze->GetSelection(), v.voegToeModeKeuze->GetSelection(),
+                               v.naamKader->GetLabel(), v.bestandNaamTekst->GetValue(), v.subDirHeeftCMakeLists,
+                               v.includeIsCMake, m->IsChecked(AutoZetUitvoerDirID), m->IsChecked(VoegHBestandenToeID),
+                               m->IsChecked(VoegCPPBestandenToeID), v.GetStatusBar()->GetStatusText(1),
+                               v.uitsluitTerm->GetValue(), v.recenteLokaties.GetCount()),
+              bron + "|" + uit + "|Motor met spatie|2122|Include name|Motor.cmake|11010|"
+                  + "Current filter searches for: C  H  S |test|2");
     EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), "/a");
 
     // what the controls hold at exit is written, the rest as it was read
@@ -135,79 +125,63 @@ TEST_F(Venster, TheStoreIsRestoredIntoEveryControlAndWrittenBackInFull)
     v.vindBestandenInDirs->SetPath(weg["DirPad"] = uit);
     v.outputDirPicker->SetPath(weg["UitvoerDirPad"] = bron);
     v.projektLibIncludeNaam->ChangeValue(weg["Projektnaam"] = "Naam");
-    v.uitvoerSoortKeuze->SetSelection(1);
-    v.cmakeProjektKeuze->SetSelection(0);
-    v.cmakeBiebKeuze->SetSelection(1);
     v.bestandNaamTekst->ChangeValue(weg["BestandNaamTekst"] = "x.txt");
-    v.voegToeModeKeuze->SetSelection(1);
-    v.GetMenuBar()->Check(AutoZetUitvoerDirID, true);
+    v.uitsluitTerm->ChangeValue(weg["UitsluitTerm"] = ""); // an empty term is written as such
+    v.uitvoerSoortKeuze->SetSelection(1), v.cmakeBiebKeuze->SetSelection(1), v.voegToeModeKeuze->SetSelection(1);
+    v.cmakeProjektKeuze->SetSelection(0);
+    m->Check(AutoZetUitvoerDirID, true);
     v.voegCPPBestandenToe = true;
     v.voegSBestandenToe = false;
-    v.uitsluitTerm->ChangeValue(weg["UitsluitTerm"] = ""); // an empty term is written as such
     v.recenteLokaties.AddFileToHistory("/nieuw");
     for (const char* k : {"Projektsoort", "Biebtype", "VoegToeMethode", "AutoDirToewijzing", "VoegCPPBestandenToe"})
         weg[k] = "1";
     weg["Projekttype"] = weg["VoegSBestandenToe"] = "0";
     weg["file1"] = "/nieuw", weg["file2"] = "/a", weg["file3"] = "/b";
     stop();
-
     auto config = leesInstellingen();
-    config->SetPath("/Configuratie");
     for (const auto& [sleutel, waarde] : weg)
-        EXPECT_EQ(config->Read(sleutel, "missing"), waarde) << sleutel;
+        EXPECT_EQ(config->Read("/Configuratie/" + sleutel, "missing"), waarde) << sleutel;
 }
 
-// Per output kind, with a sub-directory CMakeLists.txt and an include file
-// chosen, which kind-bound controls and menu items are on; then the lists, the
-// probe and the histories.
+// Which commands each state enables: the kind, the lists, the probe, the histories.
 TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
 {
     start();
     KlavermolVenster& v = venster();
     // project type, library type, file name, sub-directory picker and Add,
-    // include Add (follows the probe, whatever the kind), then F1 and F2
-    const int ids[] = {CMakeProjektKeuzeID, CMakeBiebKeuzeID, BestandNaamTekstID, VindCMakeSubDirID,
-                       VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, ZetAlsUitvoerID, AutoZetUitvoerDirID};
+    // include Add (follows the probe, whatever the kind), then the menu's F1 and F2
     const char* const verwacht[] = {"10011000", "01000111", "00111111"};
     for (int soort = 0; soort < 3; ++soort) {
         v.uitvoerSoortKeuze->SetSelection(soort);
         v.subDirHeeftCMakeLists = true;
         v.includeIsCMake = soort != 0;
-        std::string gezien;
-        for (int i = 0; i < 8; ++i)
-            gezien += (i < 6 ? aan(ids[i]) : menuAan(ids[i])) ? '1' : '0';
-        EXPECT_EQ(gezien, verwacht[soort]) << "kind " << soort;
+        EXPECT_EQ(aanRij({CMakeProjektKeuzeID, CMakeBiebKeuzeID, BestandNaamTekstID, VindCMakeSubDirID,
+                          VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, ZetAlsUitvoerID, AutoZetUitvoerDirID}, 6),
+                  verwacht[soort]) << "kind " << soort;
     }
     v.subDirHeeftCMakeLists = false;
-    EXPECT_FALSE(aan(VoegToeCMakeSubDirID));
-    for (int id : std::initializer_list<int>{VindCMakeIncludeDirID, VindBestandenInDirsID, OutputDirPickerID,
-                                            VoegToeModeKeuzeID, wxID_SELECTALL, wxID_HOME, GebruikSourceDirNaamID,
-                                            VoegCBestandenToeID, wxID_EXIT})
-        EXPECT_TRUE(aan(id)) << id;
+    EXPECT_EQ(aanRij({VoegToeCMakeSubDirID, VindCMakeIncludeDirID, VindBestandenInDirsID, OutputDirPickerID}), "0111");
 
     // F1 copies the search location into the output directory
-    const wxString bron = maakMap("bron");
-    v.vindBestandenInDirs->SetPath(bron);
+    v.vindBestandenInDirs->SetPath(maakMap("bron"));
     opdracht(wxEVT_MENU, ZetAlsUitvoerID);
-    EXPECT_EQ(v.outputDirPicker->GetPath(), bron);
+    EXPECT_EQ(v.outputDirPicker->GetPath(), thuis + "/bron");
 
-    // the lists, the probe and the histories
+    // Execute counts the source list only, Clear the page shown, Save the text
     v.biebLijst->Append("/lib");
     v.includeLijst->Append("/x.cmake");
-    EXPECT_FALSE(aan(wxID_APPLY)); // only the source list counts
-    EXPECT_FALSE(aan(wxID_CLEAR)); // page 0 is empty
-    v.selektieBoek->SetSelection(1);
-    EXPECT_TRUE(aan(wxID_CLEAR));
-    v.biebLijst->Clear();
-    EXPECT_FALSE(aan(wxID_CLEAR));
-    v.selektieBoek->SetSelection(2);
-    EXPECT_TRUE(aan(wxID_CLEAR));
+    std::string lijsten = aanRij({wxID_APPLY, wxID_CLEAR});
+    for (int pagina : {1, 2}) {
+        v.selektieBoek->SetSelection(pagina);
+        lijsten += aanRij({wxID_CLEAR});
+        v.biebLijst->Clear();
+        lijsten += aanRij({wxID_CLEAR});
+    }
     std::size_t overgeslagen = 0;
     v.voegBronnenToe(wxArrayString(1, "/a.c"), overgeslagen);
-    EXPECT_TRUE(aan(wxID_APPLY));
-    EXPECT_FALSE(aan(wxID_SAVE));
+    lijsten += aanRij({wxID_APPLY, wxID_SAVE});
     v.uitvoerTekst->ChangeValue("x");
-    EXPECT_TRUE(aan(wxID_SAVE));
+    EXPECT_EQ(lijsten + aanRij({wxID_SAVE}), "00" "10" "11" "10" "1");
 
     // Add needs a found family that is switched on: one family found, every
     // other one switched on, is not enough until its own switch is on
@@ -215,43 +189,35 @@ TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
         {&v.heeftCPPBestanden, &v.voegCPPBestandenToe}, {&v.heeftHBestanden, &v.voegHBestandenToe},
         {&v.heeftSBestanden, &v.voegSBestandenToe}};
     for (size_t f = 0; f < WXSIZEOF(families); ++f) {
-        for (size_t g = 0; g < WXSIZEOF(families); ++g) {
-            *families[g].first = g == f;
-            *families[g].second = g != f;
-        }
+        for (size_t g = 0; g < WXSIZEOF(families); ++g)
+            *families[g].first = g == f, *families[g].second = g != f;
         EXPECT_FALSE(aan(wxID_ADD)) << f;
         *families[f].second = true;
         EXPECT_TRUE(aan(wxID_ADD)) << f;
     }
 
-    // no location at all: forward is on (count - 1 wraps), back is off
-    EXPECT_FALSE(aan(wxID_BACKWARD));
-    EXPECT_TRUE(aan(wxID_FORWARD));
-    EXPECT_FALSE(aan(VorigeLokatieID));
+    // back, forward, recent: no location (forward on: count - 1 wraps), one
+    // appended (index 1), back at 0, two at 0 and one recent location
+    std::string geschiedenis = aanRij({wxID_BACKWARD, wxID_FORWARD, VorigeLokatieID});
     v.lokatieGeschiedenis.voegToe(wxFileName::DirName("/a"));
-    EXPECT_TRUE(aan(wxID_BACKWARD)); // index 1 after the append
-    EXPECT_FALSE(aan(wxID_FORWARD)); // one location: count - 1 is 0
+    geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
     v.lokatieGeschiedenis.zetIndex(0);
-    EXPECT_FALSE(aan(wxID_BACKWARD));
-    EXPECT_FALSE(aan(wxID_FORWARD));
+    geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
     v.lokatieGeschiedenis.voegToe(wxFileName::DirName("/b"));
     v.lokatieGeschiedenis.zetIndex(0);
-    EXPECT_TRUE(aan(wxID_FORWARD));
     v.recenteLokaties.AddFileToHistory("/a");
-    EXPECT_TRUE(aan(VorigeLokatieID));
+    EXPECT_EQ(geschiedenis + aanRij({wxID_FORWARD, VorigeLokatieID}), "010" "10" "00" "11");
 
     klik(wxID_EXIT); // Quit closes the window
     EXPECT_TRUE(wxTheApp->IsScheduledForDestruction(&venster()));
 }
 
-// Forward with no location at all ends the program on its out-of-range
-// error, but what the user set is on disk first.
+// Forward with no location ends the program on its out-of-range error, but the settings are on disk first.
 TEST_F(Venster, ForwardIntoNothingWritesTheSettingsBeforeTheProgramEnds)
 {
     start();
     const wxString d = maakMap("d");
     venster().vindBestandenInDirs->SetPath(d);
-    ASSERT_TRUE(aan(wxID_FORWARD));
     // The toolkit then leaves the main loop, which the test only stands in for.
     verwachtAssert("\"IsInsideRun()\"");
     EXPECT_THROW(klikOp(venster().FindWindow(wxID_FORWARD)), std::out_of_range);

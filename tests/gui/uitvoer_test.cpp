@@ -71,7 +71,7 @@ TEST_F(Uitvoer, TheFileNameFollowsTheKindAndTheNameAndSaveProposesIt)
     }
     const wxString map = maakMap("uit");
     v.outputDirPicker->SetPath(map);
-    v.zetUitvoer(wxString::FromUTF8("set(Naam Caf\xC3\xA9)\n"));
+    v.zetUitvoer("set(Naam Caf\xC3\xA9)\n");
     wxTEST_DIALOG(klik(wxID_SAVE), bewaarAls(map + "/CMakeLists.txt", map, "CMakeLists.txt"));
     EXPECT_EQ(leesBytes(map + "/CMakeLists.txt"), "set(Naam Caf\xC3\xA9)\n");
     v.zetUitvoer("x");

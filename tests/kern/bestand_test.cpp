@@ -31,8 +31,8 @@ bool metStoring(long nr, int fout, const std::function<bool()>& werk)
         sock_filter filter[] = {
             BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
             BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(nr), 0, 3),
-            BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args) + (ruimte ? 8 : 16)),
-            BPF_JUMP(BPF_JMP | BPF_JSET | BPF_K, ruimte ? FALLOC_FL_KEEP_SIZE : O_TMPFILE & ~O_DIRECTORY, 0, 1),
+            BPF_STMT(BPF_LD | BPF_W | BPF_ABS, static_cast<__u32>(offsetof(seccomp_data, args) + (ruimte ? 8 : 16))),
+            BPF_JUMP(BPF_JMP | BPF_JSET | BPF_K, static_cast<__u32>(ruimte ? FALLOC_FL_KEEP_SIZE : O_TMPFILE & ~O_DIRECTORY), 0, 1),
             BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | static_cast<unsigned>(fout)),
             BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
         const sock_fprog programma{sizeof filter / sizeof *filter, filter};

@@ -223,8 +223,9 @@ void ProgrammaTest::kiesZoekMap(const wxString& pad)
 void ProgrammaTest::wachtTot(const std::function<bool()>& klaar, const char* wat)
 {
     const wxLongLong einde = wxGetLocalTimeMillis() + 30000;
-    // wakes the loop now and then to look at the clock
-    const guint wekker = g_timeout_add_seconds(1, [](gpointer) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr);
+    // wakes the loop now and then for what changes without an event of its
+    // own (a worker's flag, the clock)
+    const guint wekker = g_timeout_add(20, [](gpointer) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr);
     wxTheApp->ProcessPendingEvents();
     while (!klaar()) {
         if (wxGetLocalTimeMillis() > einde) {
@@ -237,17 +238,25 @@ void ProgrammaTest::wachtTot(const std::function<bool()>& klaar, const char* wat
     g_source_remove(wekker);
 }
 
-void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort)
+void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort, wxPoint punt, bool dubbel)
 {
     // The splash screen stays on top for its two seconds; real input is meant
-    // for the main window, so it goes first, also from the display.
+    // for the windows under it, so it goes first, also from the display.
     if (wxSplashScreen* splash = app().geefSplash()) {
         splash->Destroy();
         wachtTot([this] { return app().geefSplash() == nullptr; }, "the splash screen to go");
     }
-    // Active once the window manager has framed, placed and focused it.
-    wachtTot([this] { return venster().IsActive(); }, "the window to be active");
-    gdk_display_sync(gdk_display_get_default());
+    auto* top = static_cast<wxTopLevelWindow*>(wxGetTopLevelParent(w));
+    top->Raise();
+    // Shown, enabled, and its window framed, focused and placed by the
+    // window manager where the toolkit thinks it is.
+    wachtTot([&] {
+        GdkRectangle r;
+        gdk_window_get_frame_extents(gtk_widget_get_window(top->GetHandle()), &r);
+        return w->IsShownOnScreen() && w->IsEnabled() && top->IsActive() && wxPoint(r.x, r.y) == top->GetPosition();
+    }, "a control to click");
+    if (punt == wxDefaultPosition)
+        punt = wxPoint(w->GetClientSize().x / 2, w->GetClientSize().y / 2);
     bool gekomen = false;
     auto gezien = [&](wxEvent& e) {
         gekomen = true;
@@ -256,8 +265,11 @@ void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort)
     const wxEventTypeTag<wxEvent> tag(soort);
     w->Bind(tag, gezien);
     wxUIActionSimulator sim;
-    sim.MouseMove(w->GetScreenRect().GetPosition() + w->GetSize() / 2);
-    sim.MouseClick();
+    sim.MouseMove(w->ClientToScreen(wxPoint(-3, -3))); // in from outside: the control sees it enter
+    verwerk();
+    sim.MouseMove(w->ClientToScreen(punt));
+    verwerk();
+    dubbel ? sim.MouseDblClick() : sim.MouseClick();
     wachtTot([&] { return gekomen; }, "the click");
     w->Unbind(tag, gezien);
     verwerk();

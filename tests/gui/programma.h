@@ -55,10 +55,11 @@ protected:
     // Runs the event loop until `klaar` holds; waits for events, not for
     // time. What never comes fails the test after half a minute, naming `wat`.
     void wachtTot(const std::function<bool()>& klaar, const char* wat = "a condition");
-    // Real input through the display: a mouse click in the middle of `w`
-    // (returns once `w` has its event of type `soort`), and typing `tekst`
-    // into a text field in place of what it holds, closed with Enter.
-    void klikOp(wxWindow* w, wxEventType soort = wxEVT_BUTTON);
+    // Real input through the display: a mouse click (or double click) on
+    // `punt` of `w`, by default its middle, once it can take one (returns
+    // once `w` has its event of type `soort`), and typing `tekst` into a
+    // text field in place of what it holds, closed with Enter.
+    void klikOp(wxWindow* w, wxEventType soort = wxEVT_BUTTON, wxPoint punt = wxDefaultPosition, bool dubbel = false);
     void typIn(wxTextCtrl* veld, const wxString& tekst);
     // Moves a choice to row `rij` with the arrow keys, as a keyboard user does.
     void kiesRij(wxChoice* keuze, int rij);

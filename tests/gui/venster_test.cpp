@@ -44,8 +44,11 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
     for (int id : std::initializer_list<int>{wxID_HOME, VorigeLokatieID, wxID_BACKWARD, wxID_FORWARD, wxID_ADD,
                                             VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, wxID_APPLY})
         EXPECT_TRUE(static_cast<wxBitmapButton*>(v.FindWindow(id))->GetBitmap().IsOk()) << id;
-    const std::pair<wxString, int> beelden[] = {{"../../../grafisch/ikonen/32x32/icons8-home.png", 32},
-        {"ikoon/cmakelogo_klein.png", 48}, {"../../../grafisch/ikonen/Zelvano_zeerklein.jpg", 24}};
+    std::vector<std::pair<wxString, int>> beelden = {
+        {"ikoon/cmakelogo_klein.png", 48}, {"../../../grafisch/ikonen/Zelvano_zeerklein.jpg", 24}, {"ikoon/Klavermol.jpg", 32}};
+    for (const wxString& naam : wxSplit("home,time_machine,circled_left,circled_right,greenplus,blueplus,joyent,language,"
+                                        "customer_support,project_setup,books,circuit", ','))
+        beelden.emplace_back("../../../grafisch/ikonen/32x32/icons8-" + naam + ".png", 32);
     for (const auto& [naam, maat] : beelden) {
         const wxImage beeld = v.GetBitmapResource(naam).GetBitmap(wxDefaultSize).ConvertToImage();
         ASSERT_TRUE(beeld.IsOk() && beeld.HasAlpha() && beeld.GetSize() == wxSize(maat, maat)) << naam;
@@ -123,10 +126,8 @@ TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
     v.biebLijst->Append("/lib"), v.includeLijst->Append("/x.cmake"); // Execute: the source list; Clear: the page; Save: the text
     std::string lijsten = aanRij({wxID_APPLY, wxID_CLEAR});
     for (int pagina : {1, 2}) {
-        v.selektieBoek->SetSelection(pagina);
-        lijsten += aanRij({wxID_CLEAR});
-        v.biebLijst->Clear();
-        lijsten += aanRij({wxID_CLEAR});
+        v.selektieBoek->SetSelection(pagina), lijsten += aanRij({wxID_CLEAR});
+        v.biebLijst->Clear(), lijsten += aanRij({wxID_CLEAR});
     }
     std::size_t overgeslagen = 0;
     v.voegBronnenToe(wxArrayString(1, "/a.c"), overgeslagen);
@@ -145,10 +146,8 @@ TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
     }
     // back, forward, recent: none (forward on: count - 1 wraps), one appended, back at 0, two at 0 and one recent
     std::string geschiedenis = aanRij({wxID_BACKWARD, wxID_FORWARD, VorigeLokatieID});
-    v.lokatieGeschiedenis.voegToe(wxFileName::DirName("/a"));
-    geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
-    v.lokatieGeschiedenis.zetIndex(0);
-    geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
+    v.lokatieGeschiedenis.voegToe(wxFileName::DirName("/a")), geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
+    v.lokatieGeschiedenis.zetIndex(0), geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
     v.lokatieGeschiedenis.voegToe(wxFileName::DirName("/b")), v.lokatieGeschiedenis.zetIndex(0), v.recenteLokaties.AddFileToHistory("/a");
     EXPECT_EQ(geschiedenis + aanRij({wxID_FORWARD, VorigeLokatieID}), "010" "10" "00" "11");
     klik(wxID_EXIT); // Quit closes the window

@@ -1,5 +1,4 @@
-// The window while its workers run: a later pick wins over a slow probe, a
-// cancelled Add leaves the list alone, and the source list shows the store.
+// The window while its workers run, and the source list acting on its store.
 #include "programma.h"
 
 #include <wx/choice.h>
@@ -13,16 +12,13 @@
 
 using Draden = ProgrammaTest;
 
-// The slow probe of the first pick ends only when stopped, and then claims
-// C files: the second pick's answer must be the one that stays.
+// The first pick's slow probe ends only when stopped and then claims C files: the second pick's answer stays.
 TEST_F(Draden, ALaterPickWinsOverAnEarlierSlowProbe)
 {
     const wxString traag = maakMap("traag"), snel = maakMap("snel");
     start();
     KlavermolVenster& v = venster();
-    v.uitvoerSoortKeuze->SetSelection(1); // a library: the probe sets the output directory
-    v.voegCBestandenToe = true;
-    v.voegToeModeKeuze->SetSelection(1);
+    v.uitvoerSoortKeuze->SetSelection(1), v.voegCBestandenToe = true, v.voegToeModeKeuze->SetSelection(1); // a library's probe sets the output dir
     v.onderzoeker = [](const wxString& map, int, const kern::Families&, kern::Aanwezig& vlaggen, kern::Voortgang* af) {
         while (map.Contains("traag") && !af->isAfgebroken())
             std::this_thread::yield();
@@ -35,16 +31,12 @@ TEST_F(Draden, ALaterPickWinsOverAnEarlierSlowProbe)
     EXPECT_EQ(wxString::Format("%d|", v.heeftCBestanden) + v.outputDirPicker->GetPath(), "0|" + snel);
 }
 
-// Real clicks on a check box, the space bar, a double click and Select all
-// change the store, and the view shows it. Past half a second an Add's walk
-// shows its counts with a Cancel button; Cancel leaves the list, the status
-// line and the recent locations as they were.
+// Clicks, space, double click and Select all change the store; a cancelled Add's walk leaves all as it was.
 TEST_F(Draden, TheSourceListActsOnTheStoreAndACancelledAddLeavesIt)
 {
     start();
     KlavermolVenster& v = venster();
-    klikOp(v.GetStatusBar(), wxEVT_LEFT_UP); // the window takes the keyboard; every button in sight, no tips
-    wxToolTip::Enable(false);
+    klikOp(v.GetStatusBar(), wxEVT_LEFT_UP), wxToolTip::Enable(false); // the window takes the keyboard; all buttons in sight, no tips
     v.SetSize(wxGetDisplaySize());
     wachtTot([&] { return v.GetSize().y > 700; }, "the full size");
     const auto muisOp = [](wxWindow* w, const wxPoint& plek, bool dubbel) { // the pointer coming in from outside
@@ -70,17 +62,11 @@ TEST_F(Draden, TheSourceListActsOnTheStoreAndACancelledAddLeavesIt)
         lijst->GetItemRect(i, r);
         muisOp(lijst, wxPoint(vakje ? r.x + r.height / 2 + 2 : r.GetRight() - 10, r.y + r.height / 2), dubbel);
     };
-    opRij(1, true); // y.h's box
-    wordt("1011");
-    opRij(1, false);
-    wxUIActionSimulator().Char(' '); // the current row: y.h
-    wordt("1111");
-    opRij(0, false, true); // the double-clicked entry's directory flips, each entry on its own
-    wordt("0011");
-    for (const char* verwacht : {"1111", "0000"}) {
-        klikOp(v.selekteerAllesKnop, wxEVT_TOGGLEBUTTON);
-        wordt(verwacht);
-    }
+    opRij(1, true), wordt("1011"); // y.h's box
+    opRij(1, false), wxUIActionSimulator().Char(' '), wordt("1111"); // the space bar on the current row: y.h
+    opRij(0, false, true), wordt("0011"); // the double-clicked entry's directory flips, each entry on its own
+    for (const char* verwacht : {"1111", "0000"})
+        klikOp(v.selekteerAllesKnop, wxEVT_TOGGLEBUTTON), wordt(verwacht);
     EXPECT_FALSE(lijst->IsFrozen());
 
     const wxString status = v.GetStatusBar()->GetStatusText(0);
@@ -96,12 +82,10 @@ TEST_F(Draden, TheSourceListActsOnTheStoreAndACancelledAddLeavesIt)
     wxCommandEvent voegToe(wxEVT_BUTTON, wxID_ADD);
     v.ProcessWindowEvent(voegToe); // not awaited: it ends only when cancelled
     wachtTot([&] { return v.voortgangDialoog != nullptr && v.voortgangDialoog->IsShownOnScreen(); }, "the progress");
-    EXPECT_TRUE(v.voortgangDialoog->GetMessage().StartsWith("7 directories and 0 files so far"))
-        << v.voortgangDialoog->GetMessage();
+    EXPECT_EQ(v.voortgangDialoog->GetMessage().Left(32), "7 directories and 0 files so far");
     const wxWindow* annuleer = v.voortgangDialoog->FindWindow(wxID_CANCEL);
     muisOp(v.voortgangDialoog, annuleer->GetPosition() + annuleer->GetSize() / 2, false);
     wachtTot([&] { return !v.isBezig(); }, "the cancelled walk");
-    EXPECT_EQ(v.voortgangDialoog, nullptr);
-    EXPECT_EQ(v.bronSelektie.aantal() * 10 + v.recenteLokaties.GetCount(), 40u);
-    EXPECT_EQ(v.GetStatusBar()->GetStatusText(0), status);
+    EXPECT_EQ(wxString::Format("%d %zu %zu ", v.voortgangDialoog == nullptr, v.bronSelektie.aantal(), v.recenteLokaties.GetCount())
+                  + v.GetStatusBar()->GetStatusText(0), "1 4 0 " + status);
 }

@@ -1,5 +1,4 @@
-// The main window: what it shows at a first start, what it restores from the
-// store, what it writes back, and which commands each state enables.
+// The main window: its first start, the store restored and written back, and which commands each state enables.
 #include "programma.h"
 
 #include <algorithm>
@@ -17,74 +16,43 @@
 #include <wx/textctrl.h>
 #include <wx/tglbtn.h>
 
-class Venster : public ProgrammaTest
-{
-protected:
-    // '1' or '0' per id: enabled, as a control or (from `menuVanaf` on) as a menu item.
-    std::string aanRij(std::initializer_list<int> ids, std::size_t menuVanaf = 99)
-    {
-        venster().DoMenuUpdates();
-        std::string s;
-        for (int id : ids)
-            s += (s.size() < menuVanaf ? aan(id) : venster().GetMenuBar()->IsEnabled(id)) ? '1' : '0';
-        return s;
-    }
-};
+using Venster = ProgrammaTest;
 
 TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
 {
     start();
     KlavermolVenster& v = venster();
-    EXPECT_TRUE(wxFileName::DirName(v.vindBestandenInDirs->GetPath()).SameAs(wxFileName::DirName(thuis)));
     wxMenuBar* menu = v.GetMenuBar();
     std::string vinkjes; // the file-type switches in the menu and as boxes, then F2
     for (int id : {VoegCBestandenToeID, VoegCPPBestandenToeID, VoegHBestandenToeID, VoegSBestandenToeID})
         vinkjes += menu->IsChecked(id) || static_cast<wxCheckBox*>(v.FindWindow(id))->GetValue() ? '1' : '0';
     EXPECT_EQ(vinkjes + (menu->IsChecked(AutoZetUitvoerDirID) ? '1' : '0'), "00001");
-
-    const std::pair<wxString, wxString> teksten[] = {
-        {v.outputDirPicker->GetPath() + v.vindCMakeSubDir->GetPath() + v.vindCMakeIncludeDir->GetPath(),
-         thuis + thuis + thuis},
-        {v.projektLibIncludeNaam->GetValue() + "|" + v.bestandNaamTekst->GetValue() + "|" + v.uitsluitTerm->GetValue(),
-         "MyFirstProject|CMakeLists.txt|template"},
-        {v.voegToeModeKeuze->GetStringSelection(), "One or more files in the directory"},
-        {v.uitvoerSoortKeuze->GetStringSelection() + "|" + v.naamKader->GetLabel(), "CMake Project|Project name"},
-        {v.GetStatusBar()->GetStatusText(0), "Welkom bij Klavermol !!"},
-        {v.GetStatusBar()->GetStatusText(1), "Current filter searches for:"},
-        {v.selekteerAllesKnop->GetLabel(), "Select all"},
-        {menu->GetMenuLabelText(0) + "|" + menu->GetMenuLabelText(1) + "|" + menu->GetMenuLabelText(2),
-         "General|Navigation|Options"},
-        {menu->FindItem(wxID_PREFERENCES)->GetItemLabel(), "Preferences\tCtrl+,"},
-        {menu->FindItem(wxID_HOME)->GetItemLabel(), "Go home\tCtrl+h"},
-        {menu->FindItem(wxID_MORE)->GetItemLabel(), "Go somewhere else\tCtrl+g"},
-        {menu->FindItem(ZetAlsUitvoerID)->GetItemLabel(), "Set the current directory as the output dir\tF1"},
-        {menu->FindItem(AutoZetUitvoerDirID)->GetHelp(), "Automatically set output dir from Source top dir"},
-        {menu->FindItem(VoegSBestandenToeID)->GetItemLabel(), "Include ASM Files in list\tF6"},
-        {v.selektieBoek->GetPageText(0) + "|" + v.selektieBoek->GetPageText(1) + "|" + v.selektieBoek->GetPageText(2),
-         "Source Files|Libraries|Include files"},
-        {v.FindWindow(wxID_HOME)->GetToolTipText(), "Go to your home directory"},
-        {v.bestandSelektieLijst->GetToolTipText(), "These entries (when checked) will be included in the CMake file."},
-    };
-    for (const auto& [getoond, verwacht] : teksten)
-        EXPECT_EQ(getoond, verwacht);
-
+    EXPECT_TRUE(wxFileName::DirName(v.vindBestandenInDirs->GetPath()).SameAs(wxFileName::DirName(thuis)));
+    EXPECT_EQ(v.outputDirPicker->GetPath() + v.vindCMakeSubDir->GetPath() + v.vindCMakeIncludeDir->GetPath(), thuis + thuis + thuis);
+    const auto label = [&](int id) { return menu->FindItem(id)->GetItemLabel() + "|"; };
+    EXPECT_EQ(v.bestandNaamTekst->GetValue() + "|" + v.uitsluitTerm->GetValue() + "|" + v.voegToeModeKeuze->GetStringSelection() + "|"
+                  + v.uitvoerSoortKeuze->GetStringSelection() + "|" + v.naamKader->GetLabel() + "|" + v.GetStatusBar()->GetStatusText(0)
+                  + "|" + v.selekteerAllesKnop->GetLabel() + "|" + label(wxID_HOME) + label(wxID_MORE) + label(ZetAlsUitvoerID)
+                  + label(VoegSBestandenToeID) + menu->FindItem(AutoZetUitvoerDirID)->GetHelp() + "|"
+                  + v.FindWindow(wxID_HOME)->GetToolTipText() + "|" + v.bestandSelektieLijst->GetToolTipText(),
+              "CMakeLists.txt|template|One or more files in the directory|CMake Project|Project name|Welkom bij Klavermol !!|"
+              "Select all|Go home\tCtrl+h|Go somewhere else\tCtrl+g|Set the current directory as the output dir\tF1|"
+              "Include ASM Files in list\tF6|Automatically set output dir from Source top dir|Go to your home directory|"
+              "These entries (when checked) will be included in the CMake file.");
     // each picture from its file at its own size: see-through corner, solid over a good part
     EXPECT_TRUE(v.GetIcon().IsOk() && menu->FindItem(ZetTaalID)->GetBitmap().IsOk());
     for (int id : std::initializer_list<int>{wxID_HOME, VorigeLokatieID, wxID_BACKWARD, wxID_FORWARD, wxID_ADD,
                                             VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, wxID_APPLY})
         EXPECT_TRUE(static_cast<wxBitmapButton*>(v.FindWindow(id))->GetBitmap().IsOk()) << id;
-    const wxString p = "../../../grafisch/ikonen/", q = p + "32x32/icons8-";
-    const std::pair<wxString, int> beelden[] = {
-        {q + "home.png", 32}, {q + "time_machine.png", 32}, {q + "circled_left.png", 32},
-        {q + "circled_right.png", 32}, {q + "greenplus.png", 32}, {q + "blueplus.png", 32}, {q + "joyent.png", 32},
-        {"ikoon/cmakelogo_klein.png", 48}, {q + "language.png", 32}, {p + "Zelvano_zeerklein.jpg", 24},
-        {"ikoon/Klavermol.jpg", 32}, {q + "customer_support.png", 32}, {q + "project_setup.png", 32},
-        {q + "books.png", 32}, {q + "circuit.png", 32}};
+    std::vector<std::pair<wxString, int>> beelden = {
+        {"ikoon/cmakelogo_klein.png", 48}, {"../../../grafisch/ikonen/Zelvano_zeerklein.jpg", 24}, {"ikoon/Klavermol.jpg", 32}};
+    for (const wxString& naam : wxSplit("home,time_machine,circled_left,circled_right,greenplus,blueplus,joyent,language,"
+                                        "customer_support,project_setup,books,circuit", ','))
+        beelden.emplace_back("../../../grafisch/ikonen/32x32/icons8-" + naam + ".png", 32);
     for (const auto& [naam, maat] : beelden) {
         const wxImage beeld = v.GetBitmapResource(naam).GetBitmap(wxDefaultSize).ConvertToImage();
         ASSERT_TRUE(beeld.IsOk() && beeld.HasAlpha() && beeld.GetSize() == wxSize(maat, maat)) << naam;
-        const unsigned char* alfa = beeld.GetAlpha();
-        const auto dekkend = std::count_if(alfa, alfa + maat * maat, [](int a) { return a > 200; });
+        const auto dekkend = std::count_if(beeld.GetAlpha(), beeld.GetAlpha() + maat * maat, [](int a) { return a > 200; });
         EXPECT_TRUE(beeld.GetAlpha(0, 0) == 0 && dekkend > maat * maat / 4) << naam;
     }
 }
@@ -106,41 +74,28 @@ TEST_F(Venster, TheStoreIsRestoredIntoEveryControlAndWrittenBackInFull)
     schrijfInstellingen(tekst);
     start();
     KlavermolVenster& v = venster();
-    wxMenuBar* m = v.GetMenuBar();
-    // the output directory as stored: the automatic one is off
-    EXPECT_EQ(wxString::Format("%s|%s|%s|%d%d%d%d|%s|%s|%d%d%d%d%d|%s|%s|%zu", v.vindBestandenInDirs->GetPath(),
-                               v.outputDirPicker->GetPath(), v.projektLibIncludeNaam->GetValue(),
-                               v.uitvoerSoortKeuze->GetSelection(), v.cmakeProjektKeuze->GetSelection(),
-                               v.cmakeBiebKeuze->GetSelection(), v.voegToeModeKeuze->GetSelection(),
-                               v.naamKader->GetLabel(), v.bestandNaamTekst->GetValue(), v.subDirHeeftCMakeLists,
-                               v.includeIsCMake, m->IsChecked(AutoZetUitvoerDirID), m->IsChecked(VoegHBestandenToeID),
-                               m->IsChecked(VoegCPPBestandenToeID), v.GetStatusBar()->GetStatusText(1),
-                               v.uitsluitTerm->GetValue(), v.recenteLokaties.GetCount()),
-              bron + "|" + uit + "|Motor met spatie|2122|Include name|Motor.cmake|11010|"
-                  + "Current filter searches for: C  H  S |test|2");
-    EXPECT_EQ(v.recenteLokaties.GetHistoryFile(0), "/a");
-
+    wxMenuBar* m = v.GetMenuBar(); // the output directory as stored: the automatic one is off
+    EXPECT_EQ(wxString::Format("%s|%s|%s|%d%d%d%d|%s|%s|%d%d%d%d%d|%s|%s|%zu|%s", v.vindBestandenInDirs->GetPath(), v.outputDirPicker->GetPath(),
+                               v.projektLibIncludeNaam->GetValue(), v.uitvoerSoortKeuze->GetSelection(), v.cmakeProjektKeuze->GetSelection(),
+                               v.cmakeBiebKeuze->GetSelection(), v.voegToeModeKeuze->GetSelection(), v.naamKader->GetLabel(),
+                               v.bestandNaamTekst->GetValue(), v.subDirHeeftCMakeLists, v.includeIsCMake, m->IsChecked(AutoZetUitvoerDirID),
+                               m->IsChecked(VoegHBestandenToeID), m->IsChecked(VoegCPPBestandenToeID), v.GetStatusBar()->GetStatusText(1),
+                               v.uitsluitTerm->GetValue(), v.recenteLokaties.GetCount(), v.recenteLokaties.GetHistoryFile(0)),
+              bron + "|" + uit + "|Motor met spatie|2122|Include name|Motor.cmake|11010|Current filter searches for: C  H  S |test|2|/a");
     // what the controls hold at exit is written, the rest as it was read
     std::map<std::string, wxString> weg(std::begin(store), std::end(store));
-    v.vindBestandenInDirs->SetPath(weg["DirPad"] = uit);
-    v.outputDirPicker->SetPath(weg["UitvoerDirPad"] = bron);
-    v.projektLibIncludeNaam->ChangeValue(weg["Projektnaam"] = "Naam");
-    v.bestandNaamTekst->ChangeValue(weg["BestandNaamTekst"] = "x.txt");
+    v.vindBestandenInDirs->SetPath(weg["DirPad"] = uit), v.outputDirPicker->SetPath(weg["UitvoerDirPad"] = bron);
+    v.projektLibIncludeNaam->ChangeValue(weg["Projektnaam"] = "Naam"), v.bestandNaamTekst->ChangeValue(weg["BestandNaamTekst"] = "x.txt");
     v.uitsluitTerm->ChangeValue(weg["UitsluitTerm"] = ""); // an empty term is written as such
-    v.uitvoerSoortKeuze->SetSelection(1), v.cmakeBiebKeuze->SetSelection(1), v.voegToeModeKeuze->SetSelection(1);
-    v.cmakeProjektKeuze->SetSelection(0);
-    m->Check(AutoZetUitvoerDirID, true);
-    v.voegCPPBestandenToe = true;
-    v.voegSBestandenToe = false;
+    v.uitvoerSoortKeuze->SetSelection(1), v.cmakeBiebKeuze->SetSelection(1), v.voegToeModeKeuze->SetSelection(1), v.cmakeProjektKeuze->SetSelection(0);
+    m->Check(AutoZetUitvoerDirID, true), v.voegCPPBestandenToe = true, v.voegSBestandenToe = false;
     v.recenteLokaties.AddFileToHistory("/nieuw");
     for (const char* k : {"Projektsoort", "Biebtype", "VoegToeMethode", "AutoDirToewijzing", "VoegCPPBestandenToe"})
         weg[k] = "1";
-    weg["Projekttype"] = weg["VoegSBestandenToe"] = "0";
-    weg["file1"] = "/nieuw", weg["file2"] = "/a", weg["file3"] = "/b";
+    weg["Projekttype"] = weg["VoegSBestandenToe"] = "0", weg["file1"] = "/nieuw", weg["file2"] = "/a", weg["file3"] = "/b";
     stop();
-    auto config = leesInstellingen();
     for (const auto& [sleutel, waarde] : weg)
-        EXPECT_EQ(config->Read("/Configuratie/" + sleutel, "missing"), waarde) << sleutel;
+        EXPECT_EQ(leesInstellingen()->Read("/Configuratie/" + sleutel, "missing"), waarde) << sleutel;
 }
 
 // Which commands each state enables: the kind, the lists, the probe, the histories.
@@ -148,46 +103,40 @@ TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
 {
     start();
     KlavermolVenster& v = venster();
-    // project type, library type, file name, sub-directory picker and Add,
-    // include Add (follows the probe, whatever the kind), then the menu's F1 and F2
+    const auto aanRij = [&](std::initializer_list<int> ids, std::size_t menuVanaf = 99) { // '1' per enabled control or menu item
+        v.DoMenuUpdates();
+        std::string s;
+        for (int id : ids)
+            s += (s.size() < menuVanaf ? aan(id) : v.GetMenuBar()->IsEnabled(id)) ? '1' : '0';
+        return s;
+    };
+    // project type, library type, file name, sub-directory picker and Add, include Add (the probe's), F1, F2
     const char* const verwacht[] = {"10011000", "01000111", "00111111"};
     for (int soort = 0; soort < 3; ++soort) {
-        v.uitvoerSoortKeuze->SetSelection(soort);
-        v.subDirHeeftCMakeLists = true;
-        v.includeIsCMake = soort != 0;
+        v.uitvoerSoortKeuze->SetSelection(soort), v.subDirHeeftCMakeLists = true, v.includeIsCMake = soort != 0;
         EXPECT_EQ(aanRij({CMakeProjektKeuzeID, CMakeBiebKeuzeID, BestandNaamTekstID, VindCMakeSubDirID,
                           VoegToeCMakeSubDirID, VoegToeCMakeIncludeID, ZetAlsUitvoerID, AutoZetUitvoerDirID}, 6),
                   verwacht[soort]) << "kind " << soort;
     }
     v.subDirHeeftCMakeLists = false;
     EXPECT_EQ(aanRij({VoegToeCMakeSubDirID, VindCMakeIncludeDirID, VindBestandenInDirsID, OutputDirPickerID}), "0111");
-
-    // F1 copies the search location into the output directory
-    v.vindBestandenInDirs->SetPath(maakMap("bron"));
+    v.vindBestandenInDirs->SetPath(maakMap("bron")); // F1 copies the search location into the output directory
     opdracht(wxEVT_MENU, ZetAlsUitvoerID);
     EXPECT_EQ(v.outputDirPicker->GetPath(), thuis + "/bron");
-
-    // Execute counts the source list only, Clear the page shown, Save the text
-    v.biebLijst->Append("/lib");
-    v.includeLijst->Append("/x.cmake");
+    v.biebLijst->Append("/lib"), v.includeLijst->Append("/x.cmake"); // Execute: the source list; Clear: the page; Save: the text
     std::string lijsten = aanRij({wxID_APPLY, wxID_CLEAR});
     for (int pagina : {1, 2}) {
-        v.selektieBoek->SetSelection(pagina);
-        lijsten += aanRij({wxID_CLEAR});
-        v.biebLijst->Clear();
-        lijsten += aanRij({wxID_CLEAR});
+        v.selektieBoek->SetSelection(pagina), lijsten += aanRij({wxID_CLEAR});
+        v.biebLijst->Clear(), lijsten += aanRij({wxID_CLEAR});
     }
     std::size_t overgeslagen = 0;
     v.voegBronnenToe(wxArrayString(1, "/a.c"), overgeslagen);
     lijsten += aanRij({wxID_APPLY, wxID_SAVE});
     v.uitvoerTekst->ChangeValue("x");
     EXPECT_EQ(lijsten + aanRij({wxID_SAVE}), "00" "10" "11" "10" "1");
-
-    // Add needs a found family that is switched on: one family found, every
-    // other one switched on, is not enough until its own switch is on
+    // Add needs a found family that is switched on: its own switch, not any other one
     const std::pair<bool*, StandSchakelaar*> families[] = {{&v.heeftCBestanden, &v.voegCBestandenToe},
-        {&v.heeftCPPBestanden, &v.voegCPPBestandenToe}, {&v.heeftHBestanden, &v.voegHBestandenToe},
-        {&v.heeftSBestanden, &v.voegSBestandenToe}};
+        {&v.heeftCPPBestanden, &v.voegCPPBestandenToe}, {&v.heeftHBestanden, &v.voegHBestandenToe}, {&v.heeftSBestanden, &v.voegSBestandenToe}};
     for (size_t f = 0; f < WXSIZEOF(families); ++f) {
         for (size_t g = 0; g < WXSIZEOF(families); ++g)
             *families[g].first = g == f, *families[g].second = g != f;
@@ -195,19 +144,12 @@ TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
         *families[f].second = true;
         EXPECT_TRUE(aan(wxID_ADD)) << f;
     }
-
-    // back, forward, recent: no location (forward on: count - 1 wraps), one
-    // appended (index 1), back at 0, two at 0 and one recent location
+    // back, forward, recent: none (forward on: count - 1 wraps), one appended, back at 0, two at 0 and one recent
     std::string geschiedenis = aanRij({wxID_BACKWARD, wxID_FORWARD, VorigeLokatieID});
-    v.lokatieGeschiedenis.voegToe(wxFileName::DirName("/a"));
-    geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
-    v.lokatieGeschiedenis.zetIndex(0);
-    geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
-    v.lokatieGeschiedenis.voegToe(wxFileName::DirName("/b"));
-    v.lokatieGeschiedenis.zetIndex(0);
-    v.recenteLokaties.AddFileToHistory("/a");
+    v.lokatieGeschiedenis.voegToe(wxFileName::DirName("/a")), geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
+    v.lokatieGeschiedenis.zetIndex(0), geschiedenis += aanRij({wxID_BACKWARD, wxID_FORWARD});
+    v.lokatieGeschiedenis.voegToe(wxFileName::DirName("/b")), v.lokatieGeschiedenis.zetIndex(0), v.recenteLokaties.AddFileToHistory("/a");
     EXPECT_EQ(geschiedenis + aanRij({wxID_FORWARD, VorigeLokatieID}), "010" "10" "00" "11");
-
     klik(wxID_EXIT); // Quit closes the window
     EXPECT_TRUE(wxTheApp->IsScheduledForDestruction(&venster()));
 }
@@ -218,8 +160,7 @@ TEST_F(Venster, ForwardIntoNothingWritesTheSettingsBeforeTheProgramEnds)
     start();
     const wxString d = maakMap("d");
     venster().vindBestandenInDirs->SetPath(d);
-    // The toolkit then leaves the main loop, which the test only stands in for.
-    verwachtAssert("\"IsInsideRun()\"");
+    verwachtAssert("\"IsInsideRun()\""); // the toolkit then leaves the main loop, which the test stands in for
     EXPECT_THROW(klikOp(venster().FindWindow(wxID_FORWARD)), std::out_of_range);
     EXPECT_EQ(leesInstellingen()->Read("/Configuratie/DirPad"), d);
 }

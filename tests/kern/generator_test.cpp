@@ -5,21 +5,15 @@
 #include <gtest/gtest.h>
 #include <wx/log.h>
 
-#include <vector>
-
 namespace {
 
 kern::GeneratorInvoer maakInvoer(const wxString& uitvoerDir, std::vector<wxString> bronnen = {},
                                  int soort = kern::SoortProjekt)
 {
     kern::GeneratorInvoer in;
-    in.uitvoerDir = uitvoerDir;
-    in.soort = soort;
+    in.uitvoerDir = uitvoerDir, in.soort = soort, in.naam = "Common", in.datum = "2020-09-07 13:25:22";
     in.bronnen = wxArrayString(bronnen.size(), bronnen.data());
-    in.sjablonen = kern::geefStandaardSjablonen();
-    in.sjablonen.kopieerrechtMededeling = "## kop\n";
-    in.datum = "2020-09-07 13:25:22";
-    in.naam = "Common";
+    (in.sjablonen = kern::geefStandaardSjablonen()).kopieerrechtMededeling = "## kop\n";
     return in;
 }
 
@@ -27,27 +21,16 @@ struct Uitkomst { kern::Werklijsten werk; wxString tekst; };
 
 // The source listing alone, or the whole text of the chosen kind.
 Uitkomst geef(const kern::GeneratorInvoer& in, bool heel = false)
-{
-    Uitkomst u;
-    (heel ? kern::maakUitvoer : kern::schrijfProjektLibUitvoer)(in, u.werk, u.tekst);
-    return u;
-}
+{ Uitkomst u; return (heel ? kern::maakUitvoer : kern::schrijfProjektLibUitvoer)(in, u.werk, u.tekst), u; }
 
 wxString samen(const wxArrayString& lijst) { return wxJoin(lijst, '|', 0); }
 
-wxString foreachBlok(int n)
-{
-    return wxString::Format("foreach(SRC ${SRCS%d})\n\tlist(APPEND SRCS ${SRCS%dPath}/${SRC})\nendforeach(SRC)\n\n",
-                            n, n);
-}
+wxString foreachBlok(int n) { return wxString::Format("foreach(SRC ${SRCS%d})\n\tlist(APPEND SRCS ${SRCS%dPath}/${SRC})\n"
+                                                       "endforeach(SRC)\n\n", n, n); }
 
 const wxString kop = "## File generated on : 2020-09-07 13:25:22.\n## kop\n\n";
 const wxString minimum = "# define minimum cmake version.\ncmake_minimum_required(VERSION 2.8.10)\n\n";
 const wxString geenIncludeMappen = "\nset(AllIncludeDirs )\ninclude_directories(${AllIncludeDirs})\n\n";
-const wxString includeSlot =
-    "\nlist(SORT SRCS)\n\n"
-    "## Include this file where you would want to compile the listed source files (stored in variable SRCS).\n"
-    "## and for including the listed include_directories directives.\n\n\n";
 
 } // namespace
 
@@ -58,42 +41,29 @@ TEST(Bronlijst, GroupsPerDirectoryWithHeadersAndTheOutputDirectory)
     const wxString a69 = naam(69, 'a'), a70 = naam(70, 'a'), a80 = naam(80, 'a'), c78 = naam(78, 'c'),
                    c79 = naam(79, 'c'), p0 = "set(SRCS0Path ${SrcPath0})#set(SRCS0 ";
     const struct { wxString uitvoer; std::vector<wxString> bronnen; wxString mappen, lijsten; } gevallen[] = {
-        // a directory met first through a header gets its group with its first source
-        {"/p", {"/p/x/a.h", "/p/y/b.c", "/p/x/c.c", "/p/x/d.h"}, "x|y",
+        {"/p", {"/p/x/a.h", "/p/y/b.c", "/p/x/c.c", "/p/x/d.h"}, "x|y", // a header's directory grouped at its first source
          "set(SRCS0Path ${SrcPath1})|set(SRCS1Path ${SrcPath0})#set(SRCS0 b.c )|set(SRCS1 c.c )#${SrcPath0}"},
-        // only a lower-case "h" is a header
-        {"/p", {"/p/a/x.hpp", "/p/b/y.H", "/p/c/z.h"}, "a|b|c",
+        {"/p", {"/p/a/x.hpp", "/p/b/y.H", "/p/c/z.h"}, "a|b|c", // only a lower-case "h" is a header
          "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})#set(SRCS0 x.hpp )|set(SRCS1 y.H )#${SrcPath2}"},
-        // a source beside the output after "." came in through a header
         {"/p", {"/p/a.h", "/p/src/b.c", "/p/c.c"}, ".|src", "set(SRCS0Path ${SrcPath1})|#set(SRCS0 b.c )|list(APPEND SRCS c.c )#."},
-        // with a closing separator the files beside the output take the relative case
         {"/p/", {"/p/a.c", "/p/a.h"}, "", p0 + "a.c )#${SrcPath0}"},
-        // a directory beside the output with the same start is a sibling
-        {"/w/p", {"/w/p2/a.c", "/w/p/sub/diep/b.c", "/a.c"}, "../p2|sub/diep|../..",
-         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})|set(SRCS2Path ${SrcPath2})"
-         "#set(SRCS0 a.c )|set(SRCS1 b.c )|set(SRCS2 a.c )#"},
-        // names CMake reads otherwise go quoted and escaped
+        {"/w/p", {"/w/p2/a.c", "/w/p/sub/diep/b.c", "/a.c"}, "../p2|sub/diep|../..", // a sibling with the same start
+         "set(SRCS0Path ${SrcPath0})|set(SRCS1Path ${SrcPath1})|set(SRCS2Path ${SrcPath2})#set(SRCS0 a.c )|set(SRCS1 b.c )|set(SRCS2 a.c )#"},
         {"/p", {"/p/s/a\"b.c", "/p/s/c\x7f.c", "/p/s/d e.c"}, "s", p0 + "\"a\\\"b.c\" \"c\x7f.c\" \"d e.c\" )#"},
-        // paths the toolkit splits: a file in "/", a "//", a dot-file ".h" (a source)
-        {"/", {"/a.c", "/b.h"}, ".", "#list(APPEND SRCS a.c )#."},
+        {"/", {"/a.c", "/b.h"}, ".", "#list(APPEND SRCS a.c )#."}, // paths the toolkit splits: "/", "//", ".h" (a source)
         {"/p", {"/p//s/.h", "/p/s/b.c", "/p/t//c.h"}, "s|t", p0 + ".h b.c )#${SrcPath1}"},
         {"/p/~q", {"/p/~q/i/.h", "/p/~q/i/a.h"}, "i", p0 + ".h )#${SrcPath0}"},
-        // the break follows the first name added past 80 characters since the start or the last tab (which counts)
-        {"/p", {a69, "/p/d/b.c", "/p/d/c.c"}, "d", p0 + a69.substr(5) + " b.c c.c \n\t)#"},
+        {"/p", {a69, "/p/d/b.c", "/p/d/c.c"}, "d", p0 + a69.substr(5) + " b.c c.c \n\t)#"}, // break past 80 since start/tab
         {"/p", {a70, "/p/d/b.c", "/p/d/c.c"}, "d", p0 + a70.substr(5) + " b.c \n\tc.c )#"},
-        {"/p", {a80, "/p/d/b.c", c78, "/p/d/d.c", "/p/d/e.c"}, "d",
-         p0 + a80.substr(5) + " b.c \n\t" + c78.substr(5) + " d.c e.c \n\t)#"},
-        {"/p", {a80, "/p/d/b.c", c79, "/p/d/d.c", "/p/d/e.c"}, "d",
-         p0 + a80.substr(5) + " b.c \n\t" + c79.substr(5) + " d.c \n\te.c )#"},
+        {"/p", {a80, "/p/d/b.c", c78, "/p/d/d.c", "/p/d/e.c"}, "d", p0 + a80.substr(5) + " b.c \n\t" + c78.substr(5) + " d.c e.c \n\t)#"},
+        {"/p", {a80, "/p/d/b.c", c79, "/p/d/d.c", "/p/d/e.c"}, "d", p0 + a80.substr(5) + " b.c \n\t" + c79.substr(5) + " d.c \n\te.c )#"},
     };
     for (const auto& g : gevallen) {
         const Uitkomst u = geef(maakInvoer(g.uitvoer, g.bronnen));
-        EXPECT_EQ(samen(u.werk.dirLijst), g.mappen);
-        EXPECT_EQ(samen(u.werk.groepPaden) + "#" + samen(u.werk.groepNamen) + "#" + samen(u.werk.includeDirs),
-                  g.lijsten) << g.mappen;
+        EXPECT_EQ(samen(u.werk.dirLijst) + "#" + samen(u.werk.groepPaden) + "#" + samen(u.werk.groepNamen) + "#" +
+                      samen(u.werk.includeDirs), g.mappen + "#" + g.lijsten);
         kern::BronSelektie selektie;
-        selektie.voegToe("/weg/niet.c");
-        selektie.zetAangevinkt(0, false);
+        selektie.voegToe("/weg/niet.c"), selektie.zetAangevinkt(0, false);
         selektie.voegToe(wxArrayString(g.bronnen.size(), g.bronnen.data()), nullptr);
         kern::GeneratorInvoer uitSelektie = maakInvoer(g.uitvoer);
         uitSelektie.selektie = &selektie;
@@ -101,8 +71,7 @@ TEST(Bronlijst, GroupsPerDirectoryWithHeadersAndTheOutputDirectory)
     }
 }
 
-// ${SrcPath1} is not taken for ${SrcPath12}; the include list breaks after
-// nine and then every eight entries.
+// ${SrcPath1} is not taken for ${SrcPath12}; the include list breaks after nine, then every eight.
 TEST(Bronlijst, ManyDirectoriesKeepTheirNumbersAndTheIncludeListWraps)
 {
     kern::GeneratorInvoer in = maakInvoer("/p");
@@ -111,20 +80,16 @@ TEST(Bronlijst, ManyDirectoriesKeepTheirNumbersAndTheIncludeListWraps)
         in.bronnen.Add(wxString::Format("/p/d%d/x.h", i));
         verwacht += wxString::Format("${SrcPath%d} ", i) + (i == 8 || i == 16 ? "\n\t" : "");
     }
-    for (const char* b : {"/p/d12/bron.c", "/p/d1/bron.c", "/p/d1/nog.h"})
-        in.bronnen.Add(b);
+    for (const char* b : {"/p/d12/bron.c", "/p/d1/bron.c", "/p/d1/nog.h"}) in.bronnen.Add(b);
     const Uitkomst u = geef(in);
     EXPECT_NE(u.tekst.Find(verwacht + ")\ninclude_directories(${AllIncludeDirs})\n\n"), wxNOT_FOUND);
     EXPECT_EQ(samen(u.werk.groepPaden), "set(SRCS0Path ${SrcPath12})|set(SRCS1Path ${SrcPath1})");
 }
 
-// The listing ends at the first source on another volume, with an error; the
-// groups made before stay, and the include file keeps its sort line. In an
-// include file a source in the output directory takes the relative case.
+// A source on another volume ends the listing with an error; the include file keeps its sort line.
 TEST(Bronlijst, ASourceOnAnotherVolumeEndsOnlyTheListing)
 {
-    struct Opname : wxLog {
-        wxString regels;
+    struct Opname : wxLog { wxString regels;
         void DoLogRecord(wxLogLevel n, const wxString& t, const wxLogRecordInfo&) override { regels << n << ":" << t; }
     } opname;
     wxLog* const vorige = wxLog::SetActiveTarget(&opname);
@@ -135,37 +100,29 @@ TEST(Bronlijst, ASourceOnAnotherVolumeEndsOnlyTheListing)
     EXPECT_EQ(opname.regels, "1:Error computing the relative path between output file and the source files.\n"
                              "Please select the output directory to reside on the same volume as the sources files.");
     EXPECT_EQ(samen(u.werk.dirLijst) + "|" + samen(u.werk.groepNamen), "|set(SRCS0 a.c ");
-    EXPECT_EQ(u.tekst, "## Klavermol generated Common include file\n" + kop + minimum + "set(SRCS )\n" + includeSlot);
+    EXPECT_EQ(u.tekst, "## Klavermol generated Common include file\n" + kop + minimum + "set(SRCS )\n\nlist(SORT SRCS)\n\n"
+                       "## Include this file where you would want to compile the listed source files (stored in variable SRCS).\n"
+                       "## and for including the listed include_directories directives.\n\n\n");
 }
 
 TEST(Generator, TheProjectTexts)
 {
-    const wxString begin =
-        "## Klavermol generated CMakelists Project file\n" + kop + "set(ProjectName Common)\n\n" + minimum;
-    const wxString slot =
-        "## This project will probably need some tuning, but this is the raw form with most ingredients in place.\n\n\n";
+    const wxString begin = "## Klavermol generated CMakelists Project file\n" + kop + "set(ProjectName Common)\n\n" + minimum,
+                   slot = "## This project will probably need some tuning, but this is the raw form with most ingredients in place.\n\n\n";
     kern::GeneratorInvoer in = maakInvoer("/p", {"/p/main.c", "/p/src/a.c", "/p/src/b.c", "/p/inc/a.h"});
     in.biebs = {{"/p/l", "een", true}, {"/p/m", "twee", false}};
     EXPECT_EQ(geef(in, true).tekst,
               begin + "set(SRCS )\nset(SrcPath0 ${PROJECT_SOURCE_DIR}/.)\nset(SrcPath1 ${PROJECT_SOURCE_DIR}/src)\n"
-                  "set(SrcPath2 ${PROJECT_SOURCE_DIR}/inc)\n\n"
-                  "set(AllIncludeDirs ${SrcPath2} )\ninclude_directories(${AllIncludeDirs})\n\n\n"
-                  "list(APPEND SRCS main.c )\n" + foreachBlok(0) +
-                  "set(SRCS1Path ${SrcPath1})\nset(SRCS1 a.c b.c )\n" + foreachBlok(1) +
+                  "set(SrcPath2 ${PROJECT_SOURCE_DIR}/inc)\n\nset(AllIncludeDirs ${SrcPath2} )\ninclude_directories(${AllIncludeDirs})\n\n\n"
+                  "list(APPEND SRCS main.c )\n" + foreachBlok(0) + "set(SRCS1Path ${SrcPath1})\nset(SRCS1 a.c b.c )\n" + foreachBlok(1) +
                   "set(Lib0Path ${PROJECT_SOURCE_DIR}/l)\nadd_subdirectory(${Lib0Path})\n\n\nlist(SORT SRCS)\n\n" +
-                  kern::geefStandaardSjablonen().projektKommando +
-                  "\ntarget_link_libraries(${ProjectName} een )\n\n" + slot);
-
-    // Crosscompile: include files and sub-directories keep their row numbers,
-    // take ${SrcPath<i>} only on an exact match and start from ${PROJECT_SOURCE_DIR}.
-    in = maakInvoer("/p", {"/p/src/a.c"});
-    in.projektType = 1;
-    in.includes = {{"/p/cmake/a.cmake", false}, {"src/eigen.cmake", true}, {"/p/src/abs.cmake", true},
-                   {"/p/b.cmake", true}};
+                  kern::geefStandaardSjablonen().projektKommando + "\ntarget_link_libraries(${ProjectName} een )\n\n" + slot);
+    // Crosscompile: rows keep their numbers, take ${SrcPath<i>} only on an exact match, else ${PROJECT_SOURCE_DIR}.
+    in = maakInvoer("/p", {"/p/src/a.c"}), in.projektType = 1;
+    in.includes = {{"/p/cmake/a.cmake", false}, {"src/eigen.cmake", true}, {"/p/src/abs.cmake", true}, {"/p/b.cmake", true}};
     in.biebs = {{"src", "een", true}, {"/p/lib1", "x", false}, {"/q/lib2", "twee", true}, {"/p", "drie", true}};
     EXPECT_EQ(geef(in, true).tekst,
-              begin +
-                  "## Cross-compilation requires a rewrite of several CMake compilation directive.\n"
+              begin + "## Cross-compilation requires a rewrite of several CMake compilation directive.\n"
                   "## Please include a cross-compile configuration file here (using include or directly).\n\n"
                   "set(SRCS )\nset(SrcPath0 ${CMAKE_CURRENT_SOURCE_DIR}/src)\n" + geenIncludeMappen +
                   "set(Include1Path ${SrcPath0})\ninclude(${Include1Path}/eigen.cmake)\n\n"
@@ -188,17 +145,11 @@ TEST(Generator, TheLibraryKinds)
     const wxString kommandos[] = {s.biebKommando, s.dynBiebKommando, s.objektBiebKommando, ""};
     for (int type = 0; type < 4; ++type) {
         kern::GeneratorInvoer in = maakInvoer("/p/lib", {"/p/lib/a.c"}, kern::SoortBieb);
-        in.biebType = type;
-        in.projektType = type == 3 ? 1 : 0;
-        in.naam = "mylib";
-        in.sjablonen.biebLibNaam = "MijnBieb";
+        in.biebType = type, in.projektType = type == 3 ? 1 : 0, in.naam = "mylib", in.sjablonen.biebLibNaam = "MijnBieb";
         EXPECT_EQ(geef(in, true).tekst, "## Klavermol generated CMakelists add_library file\n" + kop + minimum +
-                                            "# The absolute path for this CMakeLists.txt file is : \"/p/lib\"\n"
-                                            "set(MijnBieb mylib)\n\nset(SRCS )\nset(SrcPath0 ${" +
-                                            (type == 3 ? "CMAKE_CURRENT" : "PROJECT") + "_SOURCE_DIR}/.)\n" +
-                                            geenIncludeMappen + "\nlist(APPEND SRCS a.c )\n" + foreachBlok(0) +
-                                            "\nlist(SORT SRCS)\n\n" + kommandos[type] + "\n\n\n")
-            << type;
+                      "# The absolute path for this CMakeLists.txt file is : \"/p/lib\"\nset(MijnBieb mylib)\n\nset(SRCS )\n"
+                      "set(SrcPath0 ${" + (type == 3 ? "CMAKE_CURRENT" : "PROJECT") + "_SOURCE_DIR}/.)\n" + geenIncludeMappen +
+                      "\nlist(APPEND SRCS a.c )\n" + foreachBlok(0) + "\nlist(SORT SRCS)\n\n" + kommandos[type] + "\n\n\n") << type;
     }
 }
 
@@ -208,7 +159,6 @@ TEST(Generator, TheIncludeFileOfHeaders)
     kern::GeneratorInvoer in = maakInvoer("/p", {"/p/inc/a.h"}, kern::SoortInclude);
     in.sjablonen.includeKommando = in.sjablonen.projektKommando = "## eigen";
     EXPECT_EQ(geef(in, true).tekst, "## Klavermol generated Common include file\n" + kop + minimum +
-                                        "set(SRCS )\nset(SrcPath0 ${PROJECT_SOURCE_DIR}/inc)\n"
-                                        "\nset(AllIncludeDirs ${SrcPath0} )\ninclude_directories(${AllIncludeDirs})\n\n"
-                                        "## Include this file for including the listed include_directories directives.\n\n\n");
+                  "set(SRCS )\nset(SrcPath0 ${PROJECT_SOURCE_DIR}/inc)\n\nset(AllIncludeDirs ${SrcPath0} )\n"
+                  "include_directories(${AllIncludeDirs})\n\n## Include this file for including the listed include_directories directives.\n\n\n");
 }

@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 // Adds the blank-separated `paden`; gives the new ones | the duplicates | the whole list.
-wxString voegToe(kern::BronSelektie& selektie, const char* paden)
+static wxString voegToe(kern::BronSelektie& selektie, const char* paden)
 {
     wxString dubbel;
     const wxArrayString nieuw = selektie.voegToe(wxSplit(paden, ' ', 0), [&](const wxString& p) { dubbel << p << " "; });
@@ -15,10 +13,7 @@ wxString voegToe(kern::BronSelektie& selektie, const char* paden)
     return uit;
 }
 
-} // namespace
-
-// Paths compare as exact, whole, case-sensitive strings; duplicates are
-// reported in order, also one repeated inside a batch; only new paths are appended.
+// Exact, case-sensitive paths; duplicates reported in order, also inside a batch; only new paths appended.
 TEST(BronSelektie, DuplicatesAreReportedInOrderAndOnlyNewPathsAppended)
 {
     kern::BronSelektie s;
@@ -31,22 +26,19 @@ TEST(BronSelektie, DuplicatesAreReportedInOrderAndOnlyNewPathsAppended)
     EXPECT_EQ(s.voegToe(wxArrayString(1, "/p/b.c"), nullptr).size() + s.aantal(), 2u); // no reporter: still left out
 }
 
-// What CMake can name; the compact form gives every path back as added, also
-// one without a separator; check marks flip per directory.
+// What CMake can name; entries come back as added, also without a separator; marks flip per directory.
 TEST(BronSelektie, NamesCompactEntriesAndMarks)
 {
-    for (const char* pad : {"/p/met spatie.c", "/p/haak(1).c", "/p/geld$.c", "/p/hek#.c", "/p/\"a\".c", "/p/caf\u00e9.c"})
-        EXPECT_TRUE(kern::kanCMakeNoemen(wxString::FromUTF8(pad))) << pad;
-    for (const char* pad : {"/p/a;b.c", "/p;q/a.c", "/p/a\\b.c", "/p/dollar${HOME}.c", "/p/${x}/a.c"})
-        EXPECT_FALSE(kern::kanCMakeNoemen(pad)) << pad;
+    wxString kan;
+    for (const char* pad : {"/p/met spatie.c", "/p/haak(1).c", "/p/geld$.c", "/p/hek#.c", "/p/\"a\".c", "/p/caf\u00e9.c",
+                            "/p/a;b.c", "/p/a\\b.c", "/p/${x}/a.c"})
+        kan << int(kern::kanCMakeNoemen(wxString::FromUTF8(pad)));
+    EXPECT_EQ(kan, "111111000");
     kern::BronSelektie s;
-    for (const char* pad : {"/p/a.c", "los.c", "/x.c", "/p/q/b.c", "/p/c.h", "/p/"})
-        ASSERT_TRUE(s.voegToe(wxString(pad))) << pad;
+    for (const char* pad : {"/p/a.c", "los.c", "/x.c", "/p/q/b.c", "/p/c.h", "/p/"}) ASSERT_TRUE(s.voegToe(wxString(pad))) << pad;
     s.wisselMap(0);
     wxString uit;
-    for (size_t i = 0; i < s.aantal(); ++i)
-        uit << s.geef(i) << (s.isAangevinkt(i) ? "+ " : "- ");
+    for (size_t i = 0; i < s.aantal(); ++i) uit << s.geef(i) << (s.isAangevinkt(i) ? "+ " : "- ");
     EXPECT_EQ(uit, "/p/a.c- los.c+ /x.c+ /p/q/b.c+ /p/c.h- /p/- ");
     EXPECT_EQ(wxString::Format("%ld %ld %d", s.zoek("/p/c.h"), s.zoek("/p/c"), s.bevat("/P/c.h")), "4 -1 0");
-
 }

@@ -109,6 +109,20 @@ void Vondst::wis()
     perPatroon.clear();
 }
 
+void voegPadenToe(Vondst& vondst, const wxArrayString& paden)
+{
+    auto& ingangen = vondst.perPatroon.emplace_back();
+    for (const wxString& pad : paden) {
+        const std::string utf8 = pad.utf8_string();
+        const std::size_t naam = utf8.rfind('/') + 1; // 0 without a separator
+        if (vondst.mappen.empty() || vondst.mappen.back().compare(0, std::string::npos, utf8, 0, naam) != 0)
+            vondst.mappen.emplace_back(utf8, 0, naam);
+        ingangen.push_back({static_cast<std::uint32_t>(vondst.mappen.size() - 1),
+                            static_cast<std::uint32_t>(vondst.namen.size())});
+        vondst.namen.append(utf8, naam).push_back('\0');
+    }
+}
+
 bool verzamelBestanden(const wxString& map, int modus, const Families& aan,
                        Vondst& vondst, std::size_t* overgeslagen, Voortgang* voortgang)
 {

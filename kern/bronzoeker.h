@@ -9,6 +9,7 @@
 #include <wx/arrstr.h>
 #include <wx/string.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -30,8 +31,24 @@ struct Vondst {
 
     std::string_view geefNaam(const Ingang& i) const { return namen.c_str() + i.naam; }
     size_t aantal() const;
+    // Calls `doe` for the entries `van` up to `tot`, counted over the
+    // patterns in order.
+    template <class Doe> void elk(size_t van, size_t tot, Doe doe) const
+    {
+        size_t plaats = 0; // of the pattern's first entry
+        for (const auto& ingangen : perPatroon) {
+            const size_t einde = std::clamp(tot, plaats, plaats + ingangen.size()) - plaats;
+            for (size_t i = std::clamp(van, plaats, plaats + ingangen.size()) - plaats; i < einde; ++i)
+                doe(ingangen[i]);
+            plaats += ingangen.size();
+        }
+    }
     void wis();
 };
+
+// Appends paths picked by hand to the compact form, in order, as the list
+// of one more pattern.
+void voegPadenToe(Vondst& vondst, const wxArrayString& paden);
 
 // The four file-type switches: C, C++, header, assembler.
 struct Families {

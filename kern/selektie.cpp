@@ -118,28 +118,31 @@ bool BronSelektie::voegToe(std::string_view map, std::string_view naam)
 
 std::size_t BronSelektie::voegToe(const Vondst& vondst, const DubbelMelder& meldDubbel, std::size_t& overgeslagen)
 {
+    return voegToe(vondst, 0, vondst.aantal(), meldDubbel, overgeslagen);
+}
+
+std::size_t BronSelektie::voegToe(const Vondst& vondst, std::size_t van, std::size_t tot,
+                                  const DubbelMelder& meldDubbel, std::size_t& overgeslagen)
+{
     const size_t voor = aantal();
-    // room for the whole find at once, without giving up doubling
+    // room for the whole slice at once, without giving up doubling
     const auto maakRuimte = [](auto& v, size_t extra) {
         if (v.size() + extra > v.capacity())
             v.reserve(std::max(v.size() + extra, v.capacity() * 2));
     };
-    maakRuimte(mapVan_, vondst.aantal());
-    maakRuimte(naamEind_, vondst.aantal());
-    maakRuimte(namen_, vondst.namen.size());
+    maakRuimte(mapVan_, tot - van);
+    maakRuimte(naamEind_, tot - van);
     std::vector<signed char> noembaar(vondst.mappen.size(), -1); // per directory: unknown, no, yes
-    for (const auto& ingangen : vondst.perPatroon) {
-        for (const Vondst::Ingang& ingang : ingangen) {
-            const std::string& map = vondst.mappen[ingang.map];
-            const std::string_view naam = vondst.geefNaam(ingang);
-            if (noembaar[ingang.map] < 0)
-                noembaar[ingang.map] = kanCMakeNoemenUtf8(map) ? 1 : 0;
-            if (!noembaar[ingang.map] || !kanCMakeNoemenUtf8(naam))
-                ++overgeslagen;
-            else if (!voegToe(map, naam) && meldDubbel)
-                meldDubbel(wxString::FromUTF8(map) + wxString::FromUTF8(naam.data(), naam.size()));
-        }
-    }
+    vondst.elk(van, tot, [&](const Vondst::Ingang& ingang) {
+        const std::string& map = vondst.mappen[ingang.map];
+        const std::string_view naam = vondst.geefNaam(ingang);
+        if (noembaar[ingang.map] < 0)
+            noembaar[ingang.map] = kanCMakeNoemenUtf8(map) ? 1 : 0;
+        if (!noembaar[ingang.map] || !kanCMakeNoemenUtf8(naam))
+            ++overgeslagen;
+        else if (!voegToe(map, naam) && meldDubbel)
+            meldDubbel(wxString::FromUTF8(map) + wxString::FromUTF8(naam.data(), naam.size()));
+    });
     return aantal() - voor;
 }
 

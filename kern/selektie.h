@@ -54,6 +54,10 @@ public:
     // take it; paths no CMake text can name are counted in `overgeslagen`
     // and left out. Returns the number of entries appended.
     std::size_t voegToe(const Vondst& vondst, const DubbelMelder& meldDubbel, std::size_t& overgeslagen);
+    // The same for the entries `van` up to `tot` of the find, counted over
+    // its patterns in order: a large find is taken in slices.
+    std::size_t voegToe(const Vondst& vondst, std::size_t van, std::size_t tot, const DubbelMelder& meldDubbel,
+                        std::size_t& overgeslagen);
 
     // Removes every entry.
     void wis();

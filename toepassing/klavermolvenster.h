@@ -272,9 +272,9 @@ public:
     // test may put a slow stand-in here).
     std::function<bool(const wxString&, int, const kern::Families&, kern::Aanwezig&, kern::Voortgang*)>
         onderzoeker = kern::onderzoekMap;
-    using Verzamelaar = bool (*)(const wxString&, int, const kern::Families&, wxArrayString&, std::size_t*,
+    using Verzamelaar = bool (*)(const wxString&, int, const kern::Families&, kern::Vondst&, std::size_t*,
                                  kern::Voortgang*);
-    std::function<bool(const wxString&, int, const kern::Families&, wxArrayString&, std::size_t*,
+    std::function<bool(const wxString&, int, const kern::Families&, kern::Vondst&, std::size_t*,
                        kern::Voortgang*)>
         verzamelaar = static_cast<Verzamelaar>(kern::verzamelBestanden);
     // Shown while an Add has walked longer than half a second.
@@ -291,10 +291,10 @@ private:
     void neemGetyptPad(wxFileDirPickerCtrlBase* kiezer);
 
     void pasOnderzoekToe(const wxString& map, bool gelukt, const kern::Aanwezig& vlaggen);
-    void rondToevoegenAf(const wxString& map, std::shared_ptr<const wxArrayString> gevonden, std::size_t overgeslagen);
-    void voegToeInPlakken(const wxString& map, std::shared_ptr<const wxArrayString> gevonden, std::size_t van,
+    void rondToevoegenAf(const wxString& map, std::shared_ptr<const kern::Vondst> gevonden, std::size_t overgeslagen);
+    void voegToeInPlakken(const wxString& map, std::shared_ptr<const kern::Vondst> gevonden, std::size_t van,
                           std::size_t overgeslagen, int toegevoegd);
-    int voegBronnenToe(const wxArrayString& paden, std::size_t van, std::size_t tot, std::size_t& overgeslagen);
+    int voegBronnenToe(const kern::Vondst& vondst, std::size_t van, std::size_t tot, std::size_t& overgeslagen);
     std::function<void()> volgendePlak;
     wxTimer* plakKlok = nullptr;
     void begintVoortgang();

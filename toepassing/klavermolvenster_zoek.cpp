@@ -176,25 +176,28 @@ wxArrayString KlavermolVenster::kiesBestanden(const wxString& map)
 
 int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t& overgeslagen)
 {
-    return voegBronnenToe(paden, 0, paden.size(), overgeslagen);
+    kern::Vondst vondst;
+    kern::voegPadenToe(vondst, paden);
+    return voegBronnenToe(vondst, 0, vondst.aantal(), overgeslagen);
 }
 
-int KlavermolVenster::voegBronnenToe(const wxArrayString& paden, std::size_t van, std::size_t tot,
+int KlavermolVenster::voegBronnenToe(const kern::Vondst& vondst, std::size_t van, std::size_t tot,
                                      std::size_t& overgeslagen)
 {
     wxBusyCursor bezig;
     // Asked once: the trace line per file is built only when it is kept.
-    const bool spoor = wxLog::IsLevelEnabled(wxLOG_Debug, wxASCII_STR(wxLOG_COMPONENT));
+    if (wxLog::IsLevelEnabled(wxLOG_Debug, wxASCII_STR(wxLOG_COMPONENT)))
+        vondst.elk(van, tot, [&vondst](const kern::Vondst::Ingang& i) {
+            const std::string_view naam = vondst.geefNaam(i);
+            wxLogDebug("OnAddCLick : voeg toe bestand: "
+                       + DesktopAppBasis::dubbeleQuotes(wxString::FromUTF8(vondst.mappen[i.map])
+                                                            + wxString::FromUTF8(naam.data(), naam.size()),
+                                                        false));
+        });
     const std::size_t voor = bronSelektie.aantal();
-    for (std::size_t i = van; i < tot; ++i) {
-        const wxString& pad = paden[i];
-        if (spoor)
-            wxLogDebug("OnAddCLick : voeg toe bestand: " + DesktopAppBasis::dubbeleQuotes(pad, false));
-        if (!kern::kanCMakeNoemen(pad))
-            ++overgeslagen;
-        else if (!bronSelektie.voegToe(pad))
-            wxLogMessage(pad + _(" won't be added since it is already in your selection list."));
-    }
+    bronSelektie.voegToe(vondst, van, tot, [](const wxString& pad) {
+        wxLogMessage(pad + _(" won't be added since it is already in your selection list."));
+    }, overgeslagen);
     const std::size_t toegevoegd = bronSelektie.aantal() - voor;
     // One refresh of the view, however many files.
     if (toegevoegd != 0)
@@ -210,19 +213,18 @@ void KlavermolVenster::OnAddClick(wxCommandEvent&)
         return;
     const wxString map = wxFileName::DirName(vindBestandenInDirs->GetPath()).GetFullPath();
     const int modus = voegToeModeKeuze->GetSelection();
-    if (modus == kern::ModusBestanden) {
-        rondToevoegenAf(map, std::make_shared<const wxArrayString>(kiesBestanden(map)), 0);
-        return;
-    }
     if (modus != kern::ModusMap && modus != kern::ModusRecursief) {
-        rondToevoegenAf(map, std::make_shared<const wxArrayString>(), 0);
+        auto gekozen = std::make_shared<kern::Vondst>();
+        if (modus == kern::ModusBestanden)
+            kern::voegPadenToe(*gekozen, kiesBestanden(map));
+        rondToevoegenAf(map, gekozen, 0);
         return;
     }
     const kern::Families aan = geefFamilies(voegCBestandenToe, voegCPPBestandenToe, voegHBestandenToe,
                                             voegSBestandenToe);
     verzamelWerk.start([this, map, modus, aan, verzamel = verzamelaar](
                            kern::Voortgang& voortgang) -> AchtergrondWerk::Afronding {
-        auto gevonden = std::make_shared<wxArrayString>();
+        auto gevonden = std::make_shared<kern::Vondst>();
         std::size_t overgeslagen = 0;
         const bool gelukt = verzamel(map, modus, aan, *gevonden, &overgeslagen, &voortgang);
         return [this, map, gelukt, gevonden, overgeslagen] {
@@ -235,10 +237,10 @@ void KlavermolVenster::OnAddClick(wxCommandEvent&)
     begintVoortgang();
 }
 
-void KlavermolVenster::rondToevoegenAf(const wxString& map, std::shared_ptr<const wxArrayString> gevonden,
+void KlavermolVenster::rondToevoegenAf(const wxString& map, std::shared_ptr<const kern::Vondst> gevonden,
                                        std::size_t overgeslagen)
 {
-    const int aantal = static_cast<int>(gevonden->size());
+    const int aantal = static_cast<int>(gevonden->aantal());
     wxLogDebug("The selected directory resulted in the addition of %d files", aantal);
     const bool verder = aantal <= 10
         || wxMessageBox(wxString::Format(_("%d files were found and will be added to the selection list.\nDo you "
@@ -248,17 +250,18 @@ void KlavermolVenster::rondToevoegenAf(const wxString& map, std::shared_ptr<cons
     if (verder)
         voegToeInPlakken(map, gevonden, 0, overgeslagen, 0);
     else
-        voegToeInPlakken(map, std::make_shared<const wxArrayString>(), 0, 0, 0);
+        voegToeInPlakken(map, std::make_shared<const kern::Vondst>(), 0, 0, 0);
 }
 
-void KlavermolVenster::voegToeInPlakken(const wxString& map, std::shared_ptr<const wxArrayString> gevonden,
+void KlavermolVenster::voegToeInPlakken(const wxString& map, std::shared_ptr<const kern::Vondst> gevonden,
                                         std::size_t van, std::size_t overgeslagen, int toegevoegd)
 {
     // Taken in slices, the event loop running between them.
-    const std::size_t plakGrootte = 10000;
-    const std::size_t tot = std::min(gevonden->size(), van + plakGrootte);
+    const std::size_t plakGrootte = 20000;
+    const std::size_t alles = gevonden->aantal();
+    const std::size_t tot = std::min(alles, van + plakGrootte);
     toegevoegd += voegBronnenToe(*gevonden, van, tot, overgeslagen);
-    if (tot < gevonden->size()) {
+    if (tot < alles) {
         // The next slice after the event loop's own work: a timer, since a
         // queued call would run at once with the other queued events.
         volgendePlak = [=] { voegToeInPlakken(map, gevonden, tot, overgeslagen, toegevoegd); };

@@ -71,12 +71,12 @@ TEST_F(Draden, TheSourceListActsOnTheStoreAndACancelledAddLeavesIt)
 
     const wxString status = v.GetStatusBar()->GetStatusText(0);
     v.voegToeModeKeuze->SetSelection(1);
-    v.verzamelaar = [](const wxString&, int, const kern::Families&, wxArrayString& gevonden, std::size_t*,
+    v.verzamelaar = [](const wxString&, int, const kern::Families&, kern::Vondst& gevonden, std::size_t*,
                        kern::Voortgang* voortgang) {
         voortgang->mappen = 7;
         while (!voortgang->isAfgebroken())
             std::this_thread::yield();
-        gevonden.Add("/te/laat.c"); // what a walk that missed the stop would hand back
+        kern::voegPadenToe(gevonden, wxArrayString(1, "/te/laat.c")); // what a walk that missed the stop would hand back
         return true;
     };
     wxCommandEvent voegToe(wxEVT_BUTTON, wxID_ADD);

@@ -3,6 +3,8 @@
 #include <wx/app.h>
 #include <wx/apptrait.h>
 #include <wx/choice.h>
+#include <wx/bookctrl.h>
+#include <wx/statbox.h>
 #include <wx/statusbr.h>
 #include <wx/textctrl.h>
 #include <wx/filename.h>
@@ -304,6 +306,24 @@ void ProgrammaTest::kiesRij(wxChoice* keuze, int rij)
         sim.Char(rij > i ? WXK_DOWN : WXK_UP);
     wachtTot([&] { return keuze->GetSelection() == rij; }, "the chosen row");
     verwerk();
+}
+
+void ProgrammaTest::controleerIndeling(wxWindow* ouder)
+{
+    std::vector<wxWindow*> kinderen;
+    for (wxWindow* kind : ouder->GetChildren())
+        if (kind->IsShown() && !kind->IsTopLevel() && !wxDynamicCast(kind, wxStaticBox))
+            kinderen.push_back(kind);
+    // a book places its pages by its own measure
+    const wxRect binnen = wxDynamicCast(ouder, wxBookCtrlBase) ? wxRect(wxPoint(-9999, -9999), wxSize(19999, 19999))
+                                                               : wxRect(ouder->GetClientSize());
+    for (auto kind = kinderen.begin(); kind != kinderen.end(); ++kind) {
+        const wxRect r = (*kind)->GetRect();
+        EXPECT_TRUE(!r.IsEmpty() && binnen.Contains(r)) << (*kind)->GetName() << " in " << ouder->GetName();
+        for (auto ander = kind + 1; ander != kinderen.end(); ++ander)
+            EXPECT_FALSE(r.Intersects((*ander)->GetRect())) << (*kind)->GetName() << " over " << (*ander)->GetName();
+        controleerIndeling(*kind);
+    }
 }
 
 wxString ProgrammaTest::maakMap(const wxString& naam) const

@@ -22,6 +22,7 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
 {
     start();
     KlavermolVenster& v = venster();
+    controleerIndeling(v.GetChildren().front());
     wxMenuBar* menu = v.GetMenuBar();
     std::string vinkjes; // the file-type switches in the menu and as boxes, then F2
     for (int id : {VoegCBestandenToeID, VoegCPPBestandenToeID, VoegHBestandenToeID, VoegSBestandenToeID})

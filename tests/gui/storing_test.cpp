@@ -10,15 +10,12 @@
 
 using Storing = ProgrammaTest;
 
-// Add says once how many it left out; the longest entry stays reachable until Clear.
 TEST_F(Storing, AddLeavesOutNamesCMakeCannotNameAndTheLongestStaysReachable)
 {
     const std::string d = thuis.ToStdString() + "/d/", lang = "d/" + std::string(150, 'm') + "/n.c";
-    for (const std::string& map : {d + "m\xe9", d + "m;n", d + std::string(150, 'm')})
-        std::filesystem::create_directories(map); // byte for byte: some names are not UTF-8
     for (const std::string& pad : {d + "goed.c", d + "caf\xc3\xa9.c", d + "caf\xe9.c", d + "a;b.c", d + "a\\b.c",
                                    d + "m\xe9/x.c", d + "m;n/y.c", d + "oud\xe9.txt", thuis.ToStdString() + "/" + lang})
-        std::ofstream(pad) << "\n";
+        std::filesystem::create_directories(std::filesystem::path(pad).parent_path()), std::ofstream(pad) << "\n";
     start();
     KlavermolVenster& v = venster();
     v.SetSize(800, 600);
@@ -29,12 +26,11 @@ TEST_F(Storing, AddLeavesOutNamesCMakeCannotNameAndTheLongestStaysReachable)
     std::set<wxString> lijst;
     for (unsigned int i = 0; i < v.bestandSelektieLijst->GetCount(); ++i)
         lijst.insert(v.bestandSelektieLijst->GetString(i));
-    EXPECT_EQ(lijst, (std::set<wxString>{thuis + "/d/goed.c", thuis + wxString::FromUTF8("/d/caf\xc3\xa9.c"),
-                                         thuis + "/" + lang}));
-    EXPECT_EQ(logMet(wxLOG_Warning, ""), std::vector<wxString>{"5 names were left out: a CMake file cannot name a "
-              "path that is not valid UTF-8 or that contains \";\", \"\\\" or \"${\"."});
     const int breedte = v.bestandSelektieLijst->GetTextExtent(thuis + "/" + lang).x;
-    EXPECT_GE(v.bestandSelektieLijst->GetColumnWidth(0), breedte);
+    EXPECT_EQ(std::make_tuple(lijst, logMet(wxLOG_Warning, ""), v.bestandSelektieLijst->GetColumnWidth(0) >= breedte),
+              std::make_tuple(std::set<wxString>{thuis + "/d/goed.c", thuis + wxString::FromUTF8("/d/caf\xc3\xa9.c"), thuis +
+              "/" + lang}, std::vector<wxString>{"5 names were left out: a CMake file cannot name a path that is not valid "
+              "UTF-8 or that contains \";\", \"\\\" or \"${\"."}, true));
     klik(wxID_CLEAR);
     EXPECT_LT(v.bestandSelektieLijst->GetColumnWidth(0), breedte / 2);
 }

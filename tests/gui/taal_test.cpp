@@ -4,9 +4,7 @@
 
 #include "dialogs/taalkeuzedialoog.h"
 
-#include <wx/choice.h>
 #include <wx/filepicker.h>
-#include <wx/imaglist.h>
 #include <wx/menu.h>
 #include <wx/notebook.h>
 #include <wx/textctrl.h>
@@ -15,43 +13,28 @@
 
 namespace {
 
-// Whether the machine has the locale; the toolkit cannot switch without it.
-bool heeftLocale(const char* locale)
-{
-    const bool er = std::setlocale(LC_ALL, locale) != nullptr;
-    return std::setlocale(LC_ALL, "C"), er;
-}
+bool heeftLocale(const char* l) { const bool er = std::setlocale(LC_ALL, l); return std::setlocale(LC_ALL, "C"), er; }
 
-// locale: "" for one the machine lacks; fouten: logged at error level, in order; katalogi: both catalogues
-// added; teksten: menus, pages, Quit and Preferences, Save, Clear and Quit, filter text, project name;
-// stukken: in what Execute writes for output `soort`.
-struct StartRegel { const char* naam; int taal; const char* locale; std::vector<wxString> fouten = {};
-                    bool katalogi = false; const char* teksten = ""; int soort = 0; std::vector<wxString> stukken = {}; };
+// locale "": one the machine lacks; katalogi: both added; teksten: what the window shows, then what Execute writes.
+struct StartRegel { const char *naam; int taal; const char *locale, *fouten = ""; bool katalogi = false;
+                    const char* teksten = ""; };
 
-// American English texts: another English needs the English catalogues;
-// French is a generated locale without catalogues of ours.
 const StartRegel starts[] = {
     {"English", wxLANGUAGE_ENGLISH, "en_US.UTF-8"},
-    {"French", wxLANGUAGE_FRENCH, "fr_FR.UTF-8", {"Could not add Zelvano catalog for language : French"}},
-    {"Swedish", wxLANGUAGE_SWEDISH, "", {"Could not initialise the Locale for \"Swedish\" .",
-                                         "Could not initialise the Internationalization Locale system forKlavermol."}},
-    {"British", wxLANGUAGE_ENGLISH_UK, "en_GB.UTF-8", {}, true},
-    {"German", wxLANGUAGE_GERMAN, "de_DE.UTF-8", {}, true, "Allgemein|Navigation|Optionen|Quelldateien|Bibliotheken|"
+    {"French", wxLANGUAGE_FRENCH, "fr_FR.UTF-8", "Could not add Zelvano catalog for language : French\n"},
+    {"Swedish", wxLANGUAGE_SWEDISH, "", "Could not initialise the Locale for \"Swedish\" .\nCould not initialise the "
+                                        "Internationalization Locale system forKlavermol.\n"},
+    {"British", wxLANGUAGE_ENGLISH_UK, "en_GB.UTF-8", "", true},
+    {"German", wxLANGUAGE_GERMAN, "de_DE.UTF-8", "", true, "Allgemein|Navigation|Optionen|Quelldateien|Bibliotheken|"
      "Include-Dateien|Beenden\tCtrl+Q|Einstellungen\tCtrl+,|&Speichern|&Leeren|&Beenden|Der aktuelle Filter sucht "
-     "nach:|MeinErstesProjekt|", 0, {"## Von Klavermol erzeugte CMakeLists-Projektdatei\n## Datei erzeugt am : ",
-     "\n# Mindestversion von CMake festlegen.\ncmake_minimum_required(VERSION 2.8.10)\n",
-     "\n## Dieses Projekt braucht wahrscheinlich noch Feinarbeit"}},
-    {"Dutch", wxLANGUAGE_DUTCH, "nl_NL.UTF-8", {}, true, "Algemeen|Navigatie|Opties|Bronbestanden|Bibliotheken|"
-     "Includebestanden|Afsluiten\tCtrl+Q|Voorkeuren\tCtrl+,|&Opslaan|&Wissen|&Afsluiten|Het huidige filter zoekt "
-     "naar:|MijnEersteProject|", 1, {"## Door Klavermol gemaakt CMakeLists-add_library-bestand\n## Bestand gemaakt op : ",
-     "\n# minimale CMake-versie vastleggen.\ncmake_minimum_required(VERSION 2.8.10)\n",
-     "# Het absolute pad van dit CMakeLists.txt-bestand is : \"HOME\"\n"}},
+     "nach:|MeinErstesProjekt|## Von Klavermol erzeugte CMakeLists-Projektdatei\n## Datei erzeugt am : *\n# Mindest"
+     "version von CMake festlegen.\ncmake_minimum_required(VERSION 2.8.10)\n*\n## Dieses Projekt braucht wahrscheinlich noch "
+     "Feinarbeit*"},
 };
 
 void PrintTo(const StartRegel& r, std::ostream* os) { *os << r.naam; }
 
-// An offered language, the name and the flag (from data/) the dialog shows.
-struct DialoogRegel { int taal; const char *naam, *land; };
+struct DialoogRegel { int taal; const char *naam, *land; }; // an offered language, its name and flag in data/
 const DialoogRegel dialoogTalen[] = {
     {wxLANGUAGE_CHINESE_SIMPLIFIED, "Chinese (simplified)", "cn"}, {wxLANGUAGE_CHINESE_TAIWAN, "Chinese (traditional)", "tw"},
     {wxLANGUAGE_DUTCH_BELGIAN, "Dutch", "nl"}, {wxLANGUAGE_ENGLISH_NEW_ZEALAND, "English", "gb"},
@@ -62,20 +45,18 @@ const DialoogRegel dialoogTalen[] = {
     {wxLANGUAGE_SWEDISH_FINLAND, "Swedish", "se"}, {wxLANGUAGE_FINNISH, "", ""}, // no row: no name, no flag
 };
 
-// A row of the dialog's list as "name flag-index".
-wxString rij(wxListCtrl* lijst, int i)
+wxString rij(wxListCtrl* lijst, int i) // a row of the dialog's list as "name flag-index"
 {
     wxListItem item;
     item.SetId(i), item.SetMask(wxLIST_MASK_TEXT | wxLIST_MASK_IMAGE);
     return lijst->GetItem(item), item.GetText() + wxString::Format(" %d", item.GetImage());
 }
 
-// The pixels and the alpha of an image.
-std::string pixels(const wxImage& b)
+std::string pixels(const wxImage& b) // the pixels and the alpha of an image, "" for none
 {
-    const std::size_t n = static_cast<std::size_t>(b.GetWidth()) * b.GetHeight();
-    return std::string(reinterpret_cast<const char*>(b.GetData()), 3 * n) +
-           (b.HasAlpha() ? std::string(reinterpret_cast<const char*>(b.GetAlpha()), n) : "");
+    const std::size_t n = b.IsOk() ? static_cast<std::size_t>(b.GetWidth()) * b.GetHeight() : 0;
+    return n ? std::string(reinterpret_cast<const char*>(b.GetData()), 3 * n) +
+               (b.HasAlpha() ? std::string(reinterpret_cast<const char*>(b.GetAlpha()), n) : "") : "";
 }
 
 } // namespace
@@ -83,56 +64,42 @@ std::string pixels(const wxImage& b)
 using Taal = ProgrammaTest;
 class TaalStart : public Taal, public ::testing::WithParamInterface<StartRegel> {};
 
-// The errors, the traces of the catalogue search, what the window shows and
-// the comment lines Execute writes, per language.
+// The language, the errors, the traces of the catalogue search, what the window shows and Execute writes.
 TEST_P(TaalStart, LocaleCataloguesAndTexts)
 {
     const StartRegel& r = GetParam();
-    const bool locale = *r.locale != '\0';
-    if (locale != heeftLocale(locale ? r.locale : "sv_SE.UTF-8"))
+    if (*r.locale ? !heeftLocale(r.locale) : heeftLocale("sv_SE.UTF-8"))
         GTEST_SKIP() << "the machine has not the locales this row needs";
     zetTaal(r.taal);
     start();
-    EXPECT_EQ(app().geefTaal(), r.taal);
-    EXPECT_EQ(logMet(wxLOG_Error, ""), r.fouten);
-    // the resources directory as the toolkit reports it while the application is built
     const wxString naam = wxLocale::GetLanguageName(r.taal), e = wxPathOnly(wxStandardPaths::Get().GetExecutablePath());
-    const wxString b = wxPathOnly(e) + "/share/klavermol-gui-tests";
-    wxString gelogd, verwacht = "(DesktopAppBasis::zetLokaliteit) Gekozen taal : " + naam + " kort :" +
-                                wxLocale::GetLanguageCanonicalName(r.taal) + "\n";
-    if (locale)
+    const wxString b = wxPathOnly(e) + "/share/klavermol-gui-tests"; // the resources directory as the toolkit has it
+    wxString gelogd = wxString::Format("%d\n", app().geefTaal()), verwacht = wxString::Format("%d\n%s(DesktopAppBasis::"
+        "zetLokaliteit) Gekozen taal : %s kort :%s\n", r.taal, r.fouten, naam, wxLocale::GetLanguageCanonicalName(r.taal));
+    if (*r.locale)
         verwacht += "Taalpad (BSD/Solaris/AIX/Linux) toegevoegd.\nTaalpad toegevoegd : " + b + "\nTaalpad toegevoegd : " +
                     b + "/Zelvano/Klavermol/locale\nTaalpad toegevoegd : " + b + "/../Zelvano/Klavermol/locale\nTaalpad "
                     "toegevoegd : " + b + "/locale\nTaalpad toegevoegd : " + e + "/../share/Zelvano/Klavermol/locale\n";
     for (const char* k : {"Zelvano", "Applikatie (Klavermol)"})
-        if (r.katalogi)
-            verwacht += k + (" katalogus voor taal : " + naam) + " met succes toegevoegd.\n";
-    for (const LogRegel& l : logRegels(wxLOG_Debug))
-        if (l.tekst.StartsWith("(DesktopAppBasis::zetLokaliteit)") || l.tekst.StartsWith("Taalpad") ||
-            l.tekst.Contains(" katalogus voor taal : "))
-            gelogd += l.tekst + "\n";
+        verwacht += r.katalogi ? k + (" katalogus voor taal : " + naam) + " met succes toegevoegd.\n" : wxString();
+    for (wxLogLevel niveau : {wxLOG_Error, wxLOG_Debug}) // the errors; the choice, the search paths, the catalogues
+        for (const LogRegel& l : logRegels(niveau))
+            gelogd += niveau == wxLOG_Error || l.tekst.Lower().Contains("taal") ? l.tekst + "\n" : wxString();
     EXPECT_EQ(gelogd, verwacht);
     if (*r.teksten == '\0')
         return;
     KlavermolVenster& v = venster();
+    const int ids[] = {wxID_EXIT, wxID_PREFERENCES, wxID_SAVE, wxID_CLEAR, wxID_EXIT};
     wxString teksten;
-    for (int i = 0; i < 6; ++i)
-        teksten += (i < 3 ? v.GetMenuBar()->GetMenuLabelText(i) : v.selektieBoek->GetPageText(i - 3)) + "|";
-    for (int id : {wxID_EXIT, wxID_PREFERENCES}) // the accelerator after the tab is the toolkit's
-        teksten += v.GetMenuBar()->FindItem(id)->GetItemLabel() + "|";
-    for (int id : {wxID_SAVE, wxID_CLEAR, wxID_EXIT})
-        teksten += v.FindWindow(id)->GetLabel() + "|";
-    EXPECT_EQ(teksten + v.GetStatusBar()->GetStatusText(1) + "|" + v.projektLibIncludeNaam->GetValue() + "|", r.teksten);
+    for (int i = 0; i < 11; ++i) // menus, pages, Quit and Preferences (the accelerator is the toolkit's), buttons
+        teksten += (i < 3 ? v.GetMenuBar()->GetMenuLabelText(i) : i < 6 ? v.selektieBoek->GetPageText(i - 3) : i < 8 ?
+                    v.GetMenuBar()->FindItem(ids[i - 6])->GetItemLabel() : v.FindWindow(ids[i - 6])->GetLabel()) + "|";
+    teksten += v.GetStatusBar()->GetStatusText(1) + "|" + v.projektLibIncludeNaam->GetValue() + "|";
     v.outputDirPicker->SetPath(thuis);
-    v.uitvoerSoortKeuze->SetSelection(r.soort);
-    opdracht(wxEVT_CHOICE, UitvoerSoortKeuzeID, r.soort);
     std::size_t overgeslagen = 0;
     v.voegBronnenToe(wxArrayString(1, thuis + "/src/a.c"), overgeslagen);
     klik(wxID_APPLY);
-    wxString tekst = v.uitvoerTekst->GetValue();
-    tekst.Replace(thuis, "HOME");
-    for (const wxString& stuk : r.stukken)
-        EXPECT_NE(tekst.Find(stuk), wxNOT_FOUND) << stuk;
+    EXPECT_TRUE((teksten += v.uitvoerTekst->GetValue()).Matches(r.teksten)) << teksten;
 }
 
 INSTANTIATE_TEST_SUITE_P(, TaalStart, ::testing::ValuesIn(starts),
@@ -144,79 +111,54 @@ TEST(CatalogusNamen, ApplikatieCountsFromTheThirdPosition)
         EXPECT_EQ(wxJoin(DesktopAppBasis::geefCatalogusNamen(naam), '|'), naam[2] == 'A' ? "XYApplikatie|XY" : naam);
 }
 
-TEST_F(Taal, TheAboutMenuShowsDescriptionVersionAndCreditsInOrder)
+// The about box (six credits, an address per line), every language of the dialog, the choice in force after a restart.
+TEST_F(Taal, TheAboutBoxAndTheDialogAndTheChosenLanguageInForceAfterTheRestart)
 {
+    if (!heeftLocale("de_DE.UTF-8"))
+        GTEST_SKIP() << "de_DE.UTF-8 is not generated on this machine";
+    zetTaal(isVervolg() ? -1 : wxLANGUAGE_ENGLISH); // the next start takes the language from the store
     start();
+    if (isVervolg()) {
+        EXPECT_EQ(wxString::Format("%d %d %zu ", app().geefTaal(), app().isTaalGekozen(), logRegels(wxLOG_Error).size()) +
+                  venster().GetMenuBar()->GetMenuLabelText(0), wxString::Format("%d 1 0 Allgemein", wxLANGUAGE_GERMAN));
+        return;
+    }
     wxAboutDialogInfo i;
     wxWindow* ouder = nullptr;
     DesktopApp::geefAboutToner() = [&](const wxAboutDialogInfo& info, wxWindow* o) { i = info, ouder = o; };
     opdracht(wxEVT_MENU, wxID_ABOUT);
-    EXPECT_EQ(i.GetName() + " " + i.GetVersion() + " " + i.GetCopyright() + " " + i.GetWebSiteURL(),
-              "Klavermol 07.09.2020_2.0.0.a (c) 2016-2020 Zelvano. All rights reserved. https://www.zelvano.nl");
-    EXPECT_TRUE(i.GetIcon().IsOk() && ouder == &venster());
-    EXPECT_EQ(app().geefPlatformBeschrijving(), "wxGTK Linux(64 bit)");
-    const wxString d = i.GetDescription(), samen = wxJoin(i.GetDevelopers(), '|');
-    EXPECT_TRUE(d.StartsWith("wxGTK Linux(64 bit)\n\nKlavermol simplifies applying CMake") &&
-                d.EndsWith("finding the proper paths relative from the build directory.")) << d;
-    // six, each web address on a line of its own, so that it is shown
-    EXPECT_EQ(i.GetDevelopers().size(), 6u);
-    EXPECT_TRUE(samen.StartsWith("The wxWidgets cross-platform GUI toolkit|https://www.wxwidgets.org|\nThe CMake Project|"
-                                 "https://cmake.org|\nKlavermol icons: ") && samen.EndsWith("|https://www.zelvano.nl/klavermol"))
-        << samen;
-}
-
-// Every language of the vocabulary with its name and the flag its file in data/ draws; a pick and OK give it.
-TEST_F(Taal, TheDialogShowsEachLanguageWithItsFlagAndGivesThePick)
-{
-    start();
+    EXPECT_EQ(wxString::Format("%s %s %s %s %zu %d", i.GetName(), i.GetVersion(), i.GetCopyright(), i.GetWebSiteURL(),
+              i.GetDevelopers().size(), i.GetIcon().IsOk() && ouder == &venster()), "Klavermol 07.09.2020_2.0.0.a (c) "
+              "2016-2020 Zelvano. All rights reserved. https://www.zelvano.nl 6 1");
+    const wxString d = i.GetDescription() + "|" + wxJoin(i.GetDevelopers(), '|');
+    EXPECT_TRUE(d.StartsWith("wxGTK Linux(64 bit)\n\nKlavermol simplifies applying CMake") && d.Contains("finding the "
+                "proper paths relative from the build directory.|The wxWidgets cross-platform GUI toolkit|https://www.wx"
+                "widgets.org|\nThe CMake Project|https://cmake.org|\nKlavermol icons: ") &&
+                d.EndsWith("|https://www.zelvano.nl/klavermol")) << d;
     wxArrayInt talen;
     for (const DialoogRegel& r : dialoogTalen)
         talen.Add(r.taal);
-    TaalKeuzeDialoog dlg(&venster(), talen, 1, "");
-    wxListCtrl* lijst = dlg.geefLijst();
+    auto* dlg = new TaalKeuzeDialoog(&venster(), talen, 1, ""); // the window's to destroy
+    wxListCtrl* lijst = dlg->geefLijst();
     ASSERT_EQ(lijst->GetItemCount(), static_cast<int>(WXSIZEOF(dialoogTalen)));
     const wxString vlaggen = wxPathOnly(wxStandardPaths::Get().GetExecutablePath()) + "/../data/beelden/vlaggen/";
-    const wxSize maat(24, 24);
     for (int i = 0; i < lijst->GetItemCount(); ++i) {
         const DialoogRegel& r = dialoogTalen[i];
-        SCOPED_TRACE(r.naam);
-        const std::string bestand = *r.land ? pixels(wxBitmapBundle::FromSVGFile(vlaggen + r.land + ".svg", maat)
-                                                         .GetBitmap(maat).ConvertToImage()) : "";
         const int beeld = wxAtoi(rij(lijst, i).AfterLast(' '));
-        EXPECT_EQ(rij(lijst, i).BeforeLast(' '), r.naam);
-        const wxImage getoond = beeld < 14 ? dlg.geefVlaggen()->GetBitmap(beeld).ConvertToImage() : wxImage();
-        EXPECT_TRUE((getoond.IsOk() ? pixels(getoond) : "") == bestand); // no row: no flag
-        EXPECT_EQ(bedien(dlg, wxID_OK, [&] { lijst->SetItemState(i, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED); }),
-                  wxID_OK);
-        EXPECT_EQ(dlg.geefTaal(), r.taal);
+        const bool vlag = pixels(beeld < 14 ? dlg->geefVlaggen()->GetBitmap(beeld).ConvertToImage() : wxImage()) ==
+            pixels(*r.land ? wxBitmapBundle::FromSVGFile(vlaggen + r.land + ".svg", {24, 24}).GetBitmap(wxDefaultSize)
+                                 .ConvertToImage() : wxImage());
+        const int knop = bedien(*dlg, wxID_OK, [&] { lijst->SetItemState(i, ~0, wxLIST_STATE_SELECTED); });
+        EXPECT_EQ(wxString::Format("%s %d %d %d", rij(lijst, i).BeforeLast(' '), vlag, knop, dlg->geefTaal()),
+                  wxString::Format("%s 1 %d %d", r.naam, wxID_OK, r.taal));
     }
-}
-
-// The menu offers German, English and Dutch; OK waits for a pick, which a
-// deselection keeps. German, OK and Yes restart the program, and the next
-// start, a process of its own in the same home, is in German.
-TEST_F(Taal, TheChosenLanguageIsInForceAfterTheRestart)
-{
-    if (!heeftLocale("de_DE.UTF-8"))
-        GTEST_SKIP() << "de_DE.UTF-8 is not generated on this machine";
-    if (isVervolg()) {
-        zetTaal(-1); // the language comes from the store the first run left
-        start();
-        EXPECT_EQ(wxString::Format("%d %d ", app().geefTaal(), app().isTaalGekozen()) +
-                      venster().GetMenuBar()->GetMenuLabelText(0), wxString::Format("%d 1 Allgemein", wxLANGUAGE_GERMAN));
-        EXPECT_TRUE(logRegels(wxLOG_Error).empty());
-        return;
-    }
-    start();
     const Antwoord<TaalKeuzeDialoog> kies([](TaalKeuzeDialoog& dlg) {
-        EXPECT_EQ(dlg.GetTitle(), "Language Selection ");
         wxListCtrl* lijst = dlg.geefLijst();
-        EXPECT_EQ(rij(lijst, 0) + "|" + rij(lijst, 1) + "|" + rij(lijst, 2), "German 1|English 2|Dutch 0");
+        EXPECT_EQ(dlg.GetTitle() + "|" + rij(lijst, 0) + "|" + rij(lijst, 1) + "|" + rij(lijst, 2),
+                  "Language Selection |German 1|English 2|Dutch 0");
         EXPECT_EQ(bedien(dlg, wxID_OK, [] {}), wxID_NONE);
-        return bedien(dlg, wxID_OK, [&] {
-            lijst->SetItemState(0, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
-            lijst->SetItemState(0, 0, wxLIST_STATE_SELECTED);
-        });
+        return bedien(dlg, wxID_OK, [&] { lijst->SetItemState(0, ~0, wxLIST_STATE_SELECTED),
+                                          lijst->SetItemState(0, 0, wxLIST_STATE_SELECTED); });
     });
     wxTEST_DIALOG(opdracht(wxEVT_MENU, ZetTaalID), kies, wxExpectModal<wxMessageDialog>(wxYES));
     stop();

@@ -29,8 +29,7 @@ const VeldRegel velden[] = {
 
 using Voorkeuren = ProgrammaTest;
 
-// Every other text stored (shown unexpanded), the rest default. OK hands every text back, emptied ones too, for
-// Execute and the next opening; Cancel nothing. The exit writes all but the shared and object library commands.
+// Stored texts shown unexpanded; OK hands back every text, emptied too, Cancel none; the exit writes seven.
 TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
 {
     const auto opgeslagen = [](const VeldRegel& v) { return (&v - velden) % 2 == 0; };
@@ -40,30 +39,25 @@ TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
                                                            : wxString("## confirmed ") + v.sleutel + "\n"; };
     std::string inhoud = "[Configuratie]\n";
     for (const VeldRegel& v : velden)
-        if (opgeslagen(v))
-            inhoud += std::string(v.sleutel) + "=" + eerst(v).ToStdString() + "\n";
+        inhoud += opgeslagen(v) ? std::string(v.sleutel) + "=" + eerst(v).ToStdString() + "\n" : "";
     schrijfInstellingen(inhoud);
     start();
-    // Opens the dialog from its menu: each field shows `getoond` on its page under its label;
-    // the user presses Help (nothing happens), types `nieuw` in each field and presses `knop`.
     const auto open = [&](int knop, const std::function<wxString(const VeldRegel&)>& getoond,
                           const std::function<wxString(const VeldRegel&)>& nieuw) {
         wxTEST_DIALOG(opdracht(wxEVT_MENU, wxID_PREFERENCES), Antwoord<Preferences>([&](Preferences& dlg) {
-            EXPECT_EQ(dlg.GetTitle(), "Preferences");
             wxBookCtrlBase* boek = dlg.GetBookCtrl();
-            wxString paginas;
+            wxString paginas = dlg.GetTitle() + "|";
             for (std::size_t i = 0; i < boek->GetPageCount(); ++i)
                 paginas += boek->GetPageText(i) + wxString::Format(" %d|", boek->GetPageImage(i));
-            EXPECT_EQ(paginas, "General 0|CMake Project cmd 1|CMake Library cmd 2|CMake Include cmd 3|");
+            EXPECT_EQ(paginas, "Preferences|General 0|CMake Project cmd 1|CMake Library cmd 2|CMake Include cmd 3|");
             return bedien(dlg, knop, [&] {
                 EXPECT_EQ(bedien(dlg, wxID_HELP, [] {}), wxID_NONE);
                 for (const VeldRegel& v : velden) {
                     wxTextCtrl* tekst = dlg.geefTekst(v.lid);
                     auto* kader = dynamic_cast<wxStaticBox*>(tekst->GetParent());
-                    EXPECT_TRUE(boek->GetPage(v.pagina)->IsDescendant(tekst)) << v.sleutel;
-                    EXPECT_EQ(kader ? kader->GetLabel() : tekst->GetPrevSibling()->GetLabel(), v.label);
-                    EXPECT_EQ(tekst->IsMultiLine(), v.pagina != 2 || !kader) << v.sleutel; // names: one line
-                    EXPECT_EQ(tekst->GetValue(), getoond(v)) << v.sleutel;
+                    EXPECT_EQ(wxString::Format("%d %d ", boek->GetPage(v.pagina)->IsDescendant(tekst), tekst->IsMultiLine()) +
+                              (kader ? kader->GetLabel() : tekst->GetPrevSibling()->GetLabel()) + "|" + tekst->GetValue(),
+                              wxString::Format("1 %d ", v.pagina != 2 || !kader) + v.label + "|" + getoond(v));
                     tekst->SetValue(nieuw(v));
                 }
             });
@@ -74,12 +68,10 @@ TEST_F(Voorkeuren, CancelKeepsOkTakesAndTheExitWritesSeven)
     open(wxID_OK, eerst, bevestigd);
     venster().outputDirPicker->SetPath(thuis);
     klik(wxID_APPLY);
-    for (const char* stuk : {"## confirmed KopieerrechtMededeling\n", "\n## confirmed ProjektKommando\n"})
-        EXPECT_NE(venster().uitvoerTekst->GetValue().Find(stuk), wxNOT_FOUND) << stuk;
+    EXPECT_TRUE(venster().uitvoerTekst->GetValue().Contains("## confirmed KopieerrechtMededeling\n")); // Execute uses them
     open(wxID_CANCEL, bevestigd, eerst);
     stop();
-    auto config = leesInstellingen();
     for (const VeldRegel& v : velden)
-        EXPECT_EQ(config->Read(wxString("/Configuratie/") + v.sleutel, "missing"),
+        EXPECT_EQ(leesInstellingen()->Read(wxString("/Configuratie/") + v.sleutel, "missing"),
                   v.bewaard ? bevestigd(v) : opgeslagen(v) ? eerst(v) : wxString("missing")) << v.sleutel;
 }

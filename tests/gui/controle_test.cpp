@@ -32,6 +32,7 @@ TEST_F(Controle, EnablingTheVerdictAMessageThatLeadsToItsLineAndCancelDuringALon
     auto* d = wxDynamicCast(wxWindow::FindWindowByName(CMakeControleDialoog::naam, &v), CMakeControleDialoog);
     ASSERT_NE(d, nullptr);
     wachtTot([&] { return !d->bezig(); }, "the check to end");
+    controleerIndeling(d);
     EXPECT_EQ(d->geefOordeel()->GetLabel(), "CMake stopped with 2 errors");
 
     const wxString doel = "add_executable(${ProjectName} ${SRCS})";

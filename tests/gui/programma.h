@@ -64,11 +64,13 @@ protected:
     // Moves a choice to row `rij` with the arrow keys, as a keyboard user does.
     void kiesRij(wxChoice* keuze, int rij);
 
+public:
     // Nothing hidden, nothing on top of another: below `ouder` each shown
     // control has a size, lies inside its parent and apart from its siblings
     // (a static box frames its siblings; top-level windows are left out).
     static void controleerIndeling(wxWindow* ouder);
 
+protected:
     // A directory, or a one-line file with its directories, below the home.
     wxString maakMap(const wxString& naam) const;
     wxString maakBestand(const wxString& naam) const;

@@ -12,16 +12,12 @@
 
 // The bytes of a file; empty when it cannot be read.
 inline std::string leesBestand(const std::string& pad)
-{
-    std::ifstream in(pad, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
+{ std::ifstream in(pad, std::ios::binary); return {std::istreambuf_iterator<char>(in), {}}; }
 
 // While it lives, a write past 4 KiB fails as on a full disk (SIGXFSZ ignored).
 struct VolleSchijf {
     VolleSchijf() { ::setrlimit(RLIMIT_FSIZE, &klein); }
     ~VolleSchijf() { ::setrlimit(RLIMIT_FSIZE, &oud), std::signal(SIGXFSZ, oudeAfhandeling); }
-    VolleSchijf(const VolleSchijf&) = delete;
     void (*oudeAfhandeling)(int) = std::signal(SIGXFSZ, SIG_IGN);
     rlimit oud = [] { rlimit r{}; ::getrlimit(RLIMIT_FSIZE, &r); return r; }();
     rlimit klein{4096, oud.rlim_max};
@@ -30,7 +26,7 @@ struct VolleSchijf {
 // Runs the work as "nobody" (in a child when root), giving back its short text result.
 inline std::string alsNiemand(const std::function<std::string()>& werk)
 {
-    int buis[2];
+    int buis[2], status = 0;
     if (::geteuid() != 0 || ::pipe(buis) != 0)
         return ::geteuid() != 0 ? werk() : "pipe failed";
     const pid_t kind = ::fork();
@@ -41,9 +37,7 @@ inline std::string alsNiemand(const std::function<std::string()>& werk)
         const std::string uit = werk();
         ::_exit(::write(buis[1], uit.data(), uit.size()) == static_cast<ssize_t>(uit.size()) ? 0 : 3);
     }
-    ::close(buis[1]);
-    const std::string uit = leesBestand("/proc/self/fd/" + std::to_string(buis[0])); // up to the child's exit
-    int status = 0;
+    const std::string uit = (::close(buis[1]), leesBestand("/proc/self/fd/" + std::to_string(buis[0]))); // up to the exit
     ::close(buis[0]), ::waitpid(kind, &status, 0);
     return status == 0 ? uit : "child failed: " + std::to_string(status);
 }

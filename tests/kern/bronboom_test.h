@@ -18,18 +18,14 @@ struct TijdelijkeBoom {
     std::string pad(const std::string& rel) const { return wortel_ + "/" + rel; }
     void maakMap(const std::string& rel) const { std::filesystem::create_directories(pad(rel)); }
     void maakBestand(const std::string& rel, const std::string& inhoud = "x") const
-    {
-        maakMap(std::filesystem::path(rel).parent_path());
-        std::ofstream(pad(rel)) << inhoud;
-    }
+    { maakMap(std::filesystem::path(rel).parent_path()), std::ofstream(pad(rel)) << inhoud; }
     void maakLink(const std::string& naar, const std::string& r) const { std::filesystem::create_symlink(naar, pad(r)); }
 };
 
 // Mode 1 the directory, 2 the tree, 3 (a walk only) the tree without following links.
 inline int geefToolkitVlaggen(int modus) { return wxDIR_FILES | (modus >= 2 ? wxDIR_DIRS : 0) | (modus != 2 ? wxDIR_NO_FOLLOW : 0); }
 
-// What the toolkit collects, pattern by pattern, less what the walk leaves out on purpose: names not on
-// disk (not UTF-8), entries that are not regular files, a directory's files again (through a link).
+// The toolkit's files per pattern, less names not on disk (not UTF-8), non-regular files and repeats via links.
 inline wxArrayString verzamelPerPatroon(const wxString& map, const std::vector<wxString>& patronen, int vlaggen)
 {
     wxArrayString echt;
@@ -50,8 +46,7 @@ inline wxArrayString verzamelPerPatroon(const wxString& map, const std::vector<w
 
 inline std::string onder(const std::string& m, const std::string& naam) { return m.empty() ? naam : m + "/" + naam; }
 
-// A tree of random shape: mixed-case names and extensions, hidden entries, names that are not UTF-8, links
-// to files, broken links, and links to directories (into "d0" only, from outside it, so without cycles).
+// A random tree: mixed case, hidden and non-UTF-8 names, links to files, broken ones, and acyclic ones into "d0".
 inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
 {
     std::mt19937 rnd(zaad);
@@ -68,9 +63,8 @@ inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
             naam += "aAbBxX"[rnd() % 6];
         return (kans(8) ? "." : "") + naam + std::to_string(i);
     };
-    boom.maakMap("d0");
-    for (int i = 1; i < 14; ++i)
-        boom.maakMap(mappen.emplace_back(onder(kies(mappen), geefNaam(i))));
+    for (int i = 0; i < 14; ++i)
+        boom.maakMap(i == 0 ? "d0" : mappen.emplace_back(onder(kies(mappen), geefNaam(i))));
     for (int i = 0; i < 45; ++i)
         boom.maakBestand(bestanden.emplace_back(onder(kies(mappen), geefNaam(i) + kies(ext))));
     for (const auto& m : mappen)
@@ -82,8 +76,8 @@ inline void maakWillekeurigeBoom(const TijdelijkeBoom& boom, unsigned zaad)
 
 inline std::vector<kern::Families> geefAlleFamilies()
 {
-    std::vector<kern::Families> alle;
+    std::vector<kern::Families> alle(16);
     for (int i = 0; i < 16; ++i)
-        alle.push_back(kern::Families{(i & 1) != 0, (i & 2) != 0, (i & 4) != 0, (i & 8) != 0});
+        alle[i] = {(i & 1) != 0, (i & 2) != 0, (i & 4) != 0, (i & 8) != 0};
     return alle;
 }

@@ -3,7 +3,6 @@
 #include "bronboom_test.h"
 #include "storing.h"
 
-#include <wx/filefn.h>
 #include <wx/filename.h>
 
 #include <fcntl.h>
@@ -28,14 +27,12 @@ TEST_P(WillekeurigeBoom, WalksGiveTheToolkitsPerPatternResults)
                     << map << " modus " << modus << " " << f.c << f.cpp << f.h << f.s;
             }
         std::vector<wxArrayString> emmers(patronen.size());
-        const auto ontvang = [&](const wxString& prefix, const std::vector<kern::Treffer>& treffers) {
+        ASSERT_TRUE(kern::wandel(boom.map(), patronen, {modus >= 2, modus == 2}, kern::Volgorde(0), [&](auto& prefix, auto& treffers) {
             for (const auto& t : treffers)
                 for (size_t i = 0; i < patronen.size(); ++i)
-                    if (t.patronen & (1u << i))
-                        emmers[i].Add(prefix + t.naam);
+                    emmers[i].Add(prefix + t.naam, (t.patronen >> i) & 1u); // once where the pattern matched
             return true;
-        };
-        ASSERT_TRUE(kern::wandel(boom.map(), patronen, {modus >= 2, modus == 2}, kern::Volgorde(0), ontvang));
+        }));
         for (size_t i = 0; i < patronen.size(); ++i)
             EXPECT_EQ(emmers[i], verzamelPerPatroon(boom.map(), {patronen[i]}, geefToolkitVlaggen(modus))) << i;
     }
@@ -46,17 +43,14 @@ INSTANTIATE_TEST_SUITE_P(Zaden, WillekeurigeBoom, ::testing::Range(1u, 13u));
 TEST(BronWandeling, WildcardsFollowTheToolkitsRules)
 {
     std::mt19937 rnd(7);
+    const auto maak = [&rnd](size_t n) { wxString s; while (n-- > 0) s += "ab.*?\\"[rnd() % 6]; return s; };
     for (int i = 0; i < 40000; ++i) {
-        wxString patroon, naam = "ab.*?\\"[rnd() % 6];
-        for (wxString* s : {&patroon, &naam})
-            for (size_t n = rnd() % 7; n > 0; --n)
-                *s += "ab.*?\\"[rnd() % 6];
-        ASSERT_EQ(kern::pastPatroon(patroon, naam, i % 2), ::wxMatchWild(patroon, naam, i % 2))
-            << "patroon '" << patroon << "' naam '" << naam << "' puntApart " << i % 2;
+        const wxString patroon = maak(rnd() % 7), naam = maak(1 + rnd() % 7);
+        ASSERT_EQ(kern::pastPatroon(patroon, naam, i % 2), ::wxMatchWild(patroon, naam, i % 2)) << patroon << " | " << naam;
     }
 }
 
-// A walk ends when the receiver says so, in either order; a path that is no directory gives false and nothing.
+// The receiver can end a walk, in either order; a path that is no directory gives false and nothing.
 TEST(BronWandeling, StopsWhenTheReceiverSaysSoAndFailsOnNoDirectory)
 {
     TijdelijkeBoom boom;
@@ -65,9 +59,8 @@ TEST(BronWandeling, StopsWhenTheReceiverSaysSoAndFailsOnNoDirectory)
     for (const wxString& map : {boom.map(), boom.map("ontbreekt"), boom.map("w.c"), wxString()})
         for (int stap = 0; stap < 4; ++stap) { // order times whether the receiver goes on
             wxString prefixen;
-            const bool gelukt = kern::wandel(map, {"*.c"}, {true}, kern::Volgorde(stap / 2), [&](auto& prefix, auto&) {
-                return (prefixen << prefix.Mid(boom.map().length()) << " ", stap % 2 == 1);
-            });
+            const bool gelukt = kern::wandel(map, {"*.c"}, {true}, kern::Volgorde(stap / 2),
+                [&](auto& prefix, auto&) { return (prefixen << prefix.Mid(boom.map().length()) << " ", stap % 2 == 1); });
             const char* verwacht[] = {"1 1 0", "1 4 0", "1 1 1", "1 4 1"}; // calls, root's own files ("/ ") first
             EXPECT_EQ(wxString::Format("%d %d %d", gelukt, prefixen.Freq(' '), prefixen.StartsWith("/ ")),
                       map == boom.map() ? verwacht[stap] : "0 0 0") << map << prefixen;
@@ -82,31 +75,25 @@ std::string geefGevonden(const wxString& map, int modus)
     EXPECT_TRUE(kern::verzamelBestanden(map, modus, kern::Families{true, false, false, false}, gevonden, &overgeslagen));
     std::multiset<std::string> namen;
     for (const wxString& pad : gevonden)
-        namen.insert(pad.AfterLast('/').utf8_string() + (wxFileName::Exists(pad) ? "" : " (not on disk)"));
-    const auto regel = [](std::string a, const std::string& b) { return a + b + "\n"; };
-    return std::accumulate(namen.begin(), namen.end(), std::string(), regel) + std::to_string(overgeslagen);
+        namen.insert(pad.AfterLast('/').utf8_string() + (wxFileName::Exists(pad) ? "\n" : " (not on disk)\n"));
+    return std::accumulate(namen.begin(), namen.end(), std::string()) + std::to_string(overgeslagen);
 }
 
-// Only regular files with UTF-8 names count (others count as left out where the walk would enter them),
-// unreadable ones too, in a directory listable but not searchable every name. Each real directory is read
-// once however many links lead to it, at any depth; no pseudo file system is entered.
+// Regular files with UTF-8 names count once, however reached; no pseudo file system is entered uninvited.
 TEST(BronWandeling, OnlyRegularUtf8FilesTheWalkCanReachCountOnce)
 {
     TijdelijkeBoom boom;
     for (const char* b : {"goed.c", "caf\xc3\xa9.c", "caf\xe9.c", "oud\xe9.txt", "map\xe9/x.c", "map\xc3\xa9/y.c",
                           "dicht.c", "geheim/g.c", "half/h.c", "diep/lus/d.c", "map.c/m.h"})
         boom.maakBestand(b);
-    for (const auto& [naar, link] : {std::pair{"map.c", "link.c"}, {"goed.c", "naar.c"}, {"nergens", "kapot.c"},
-                                     {"/proc/self", "proc"}, {"/dev", "dev"}, {"..", "diep/lus/terug"},
-                                     {".", "zelf"}, {"pijp.c", "naarpijp.c"}})
+    for (const auto& [naar, link] : {std::pair{"map.c", "link.c"}, {"goed.c", "naar.c"}, {"nergens", "kapot.c"}, {"/proc/self", "proc"},
+                                     {"/dev", "dev"}, {"..", "diep/lus/terug"}, {".", "zelf"}, {"pijp.c", "naarpijp.c"}})
         boom.maakLink(naar, link);
     ::mkfifo(boom.pad("pijp.c").c_str(), 0600);
-    std::string waaier;
-    for (int i = 10; i <= 32; ++i) {
-        const std::string map = "waaier/n" + std::to_string(i), naam = "x" + std::to_string(i) + ".c";
-        boom.maakBestand(map + "/" + naam), waaier += naam + "\n";
-        for (const char* link : {"/a", "/b"})
-            boom.maakLink("../n" + std::to_string(i < 32 ? i + 1 : 10), map + link); // a ring
+    std::string waaier, apparaat = "/dev/shm/klavermol-" + std::to_string(::getpid()) + ".c"; // reached only when picked
+    for (int i = 10; i <= 32; ++i) { // a ring: two links in each directory to the next
+        const std::string n = "waaier/n" + std::to_string(i), volgende = "../n" + std::to_string(i < 32 ? i + 1 : 10);
+        boom.maakBestand(n + "/x.c"), boom.maakLink(volgende, n + "/a"), boom.maakLink(volgende, n + "/b"), waaier += "x.c\n";
     }
     int fd = ::open(boom.pad("").c_str(), O_RDONLY | O_DIRECTORY);
     for (int i = 0; i < 500; ++i) // 500 levels of 10 characters: longer than any path the system takes
@@ -114,7 +101,6 @@ TEST(BronWandeling, OnlyRegularUtf8FilesTheWalkCanReachCountOnce)
     ::close(::openat(fd, "laatste.c", O_WRONLY | O_CREAT, 0644)), ::close(fd);
     for (const auto& [pad, modus] : {std::pair{"", 0755}, {"dicht.c", 0}, {"geheim", 0}, {"half", 0644}})
         ::chmod(boom.pad(pad).c_str(), modus);
-    const std::string apparaat = "/dev/shm/klavermol-" + std::to_string(::getpid()) + ".c"; // reached only when picked
     ::close(::open(apparaat.c_str(), O_WRONLY | O_CREAT, 0644));
     const auto beide = [&] { return geefGevonden(boom.map(), kern::ModusMap) + "|" + geefGevonden(boom.map(), 2); };
     EXPECT_EQ(alsNiemand(beide), "caf\xc3\xa9.c\ndicht.c\ngoed.c\nnaar.c\n1|caf\xc3\xa9.c\nd.c\ndicht.c\ngoed.c\n"

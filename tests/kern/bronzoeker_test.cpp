@@ -2,8 +2,6 @@
 
 #include "bronboom_test.h"
 
-#include <wx/log.h>
-
 namespace {
 
 // The four switches from a text such as "1010" (C, C++, header, assembler), and back.
@@ -12,17 +10,14 @@ std::string toon(kern::Aanwezig v) { return {char('0' + v.c), char('0' + v.cpp),
 
 TEST(BronZoeker, PatternsComeInTheAddCommandsOrder)
 {
-    const char* gevallen[][2] = {{"0000", ""}, {"1000", "*.c"}, {"1010", "*.c *.h"}, {"0100", "*.cpp *.cxx"},
-        {"0110", "*.cpp *.cxx *.hpp *.h"}, {"1110", "*.c *.h *.cpp *.cxx *.hpp"}, {"0010", "*.h *.hpp"},
-        {"0001", "*.s *.S"}, {"1111", "*.c *.h *.cpp *.cxx *.hpp *.s *.S"}};
-    for (const auto& g : gevallen) {
-        std::vector<wxString> patronen = kern::geefPatronen(geefFamilies(g[0]));
-        EXPECT_EQ(wxJoin(wxArrayString(patronen.size(), patronen.data()), ' ', 0), g[1]) << g[0];
+    for (const auto& [aan, verwacht] : {std::pair{"1000", "*.c"}, {"1010", "*.c *.h"}, {"0100", "*.cpp *.cxx"}, {"0010", "*.h *.hpp"},
+             {"0110", "*.cpp *.cxx *.hpp *.h"}, {"1110", "*.c *.h *.cpp *.cxx *.hpp"}, {"1111", "*.c *.h *.cpp *.cxx *.hpp *.s *.S"}}) {
+        const std::vector<wxString> patronen = kern::geefPatronen(geefFamilies(aan));
+        EXPECT_EQ(wxJoin(wxArrayString(patronen.size(), patronen.data()), ' ', 0), verwacht) << aan;
     }
 }
 
-// An unopenable directory and the modes without a walk leave the found paths and the found flags as
-// they were; new paths are appended behind.
+// An unopenable directory and modes without a walk leave found paths and flags alone; new paths go behind.
 TEST(BronVerzameling, UnopenableDirectoriesAndOtherModesChangeNothing)
 {
     TijdelijkeBoom boom;
@@ -31,9 +26,8 @@ TEST(BronVerzameling, UnopenableDirectoriesAndOtherModesChangeNothing)
     wxArrayString gevonden(1, "oud");
     for (int modus : {0, 1, 2}) {
         kern::Aanwezig v{false, true, false, true};
-        EXPECT_TRUE(modus == 0 || !kern::verzamelBestanden(boom.map("ontbreekt"), modus, c, gevonden)) << modus;
-        EXPECT_FALSE(kern::onderzoekMap(boom.map("ontbreekt"), modus, geefFamilies("1111"), v));
-        EXPECT_EQ(toon(v), "0101");
+        const bool verzameld = modus > 0 && kern::verzamelBestanden("/nergens", modus, c, gevonden);
+        EXPECT_EQ(kern::onderzoekMap("/nergens", modus, geefFamilies("1111"), v) || verzameld ? "opened" : toon(v), "0101") << modus;
     }
     for (const auto& [modus, aan] : {std::pair{0, c}, {3, c}, {-1, c}, {1, kern::Families{}}, {1, c}})
         EXPECT_TRUE(kern::verzamelBestanden(boom.map(), modus, aan, gevonden));
@@ -41,25 +35,22 @@ TEST(BronVerzameling, UnopenableDirectoriesAndOtherModesChangeNothing)
 }
 
 // The probe as the Add command's owner describes it, step by step, on the toolkit's own searches.
-kern::Aanwezig onderzoekStapVoorStap(const wxString& map, int modus, const kern::Families& aan, kern::Aanwezig v)
+std::string onderzoekStapVoorStap(const wxString& map, int modus, const kern::Families& aan, kern::Aanwezig v)
 {
-    wxLogNull stil;
-    if (!wxDir(map).IsOpened() || modus < 0 || modus > 2)
-        return v;
+    if (modus < 0 || modus > 2)
+        return toon(v);
     const int vlaggen = modus == 0 ? wxDIR_FILES | wxDIR_HIDDEN : geefToolkitVlaggen(modus);
     const auto eerste = [&](const char* p) { return !verzamelPerPatroon(map, {p}, vlaggen).empty(); };
     if (modus == 0)
-        return {eerste("*.c"), eerste("*.cpp") || eerste("*.cxx"), eerste("*.h") || eerste("*.hpp"),
-                eerste("*.s") || eerste("*.S")};
+        return toon({eerste("*.c"), eerste("*.cpp") || eerste("*.cxx"), eerste("*.h") || eerste("*.hpp"),
+                     eerste("*.s") || eerste("*.S")});
     if (aan.c)
         v.c = eerste("*.c"), v.h = aan.h ? eerste("*.h") : v.h;
     if (aan.cpp) // with C on too, a "*.hpp" keeps the header flag set; else "*.h" decides
         v.cpp = eerste("*.cpp") || eerste("*.cxx"), v.h = aan.h ? (aan.c && eerste("*.hpp")) || eerste("*.h") : v.h;
-    if (aan.h && !aan.c && !aan.cpp)
-        v.h = eerste("*.h") || eerste("*.hpp");
-    if (aan.s)
-        v.s = eerste("*.s") || eerste("*.S");
-    return v;
+    v.h = aan.h && !aan.c && !aan.cpp ? eerste("*.h") || eerste("*.hpp") : v.h;
+    v.s = aan.s ? eerste("*.s") || eerste("*.S") : v.s;
+    return toon(v);
 }
 
 class BronOnderzoek : public ::testing::TestWithParam<unsigned> {};
@@ -68,14 +59,12 @@ TEST_P(BronOnderzoek, AnswersLikeTheStepByStepProbe)
 {
     TijdelijkeBoom boom;
     maakWillekeurigeBoom(boom, GetParam());
+    const auto onderzoek = [&](int m, auto& aan, kern::Aanwezig v) { return kern::onderzoekMap(boom.map(), m, aan, v) ? toon(v) : "?"; };
     for (const auto& aan : geefAlleFamilies())
         for (int modus : {0, 1, 2, 3})
-            for (bool b : {false, true}) {
-                kern::Aanwezig v{b, b, b, b};
-                ASSERT_TRUE(kern::onderzoekMap(boom.map(), modus, aan, v));
-                EXPECT_EQ(toon(v), toon(onderzoekStapVoorStap(boom.map(), modus, aan, {b, b, b, b})))
+            for (bool b : {false, true})
+                EXPECT_EQ(onderzoek(modus, aan, {b, b, b, b}), onderzoekStapVoorStap(boom.map(), modus, aan, {b, b, b, b}))
                     << "modus " << modus << " aan " << aan.c << aan.cpp << aan.h << aan.s;
-            }
 }
 
 INSTANTIATE_TEST_SUITE_P(Zaden, BronOnderzoek, ::testing::Range(20u, 32u));

@@ -119,15 +119,11 @@ void ProgrammaTest::start()
     programmaAlGestart = true;
 
     std::string inhoud = instellingen;
-    if (eersteTaal >= 0 && inhoud.find("Encoding=") == std::string::npos) {
-        const std::string groep = "[Gebruikersinstellingen]\n";
-        const std::string regel = "Encoding=" + std::to_string(eersteTaal) + "\n";
-        const std::size_t plaats = inhoud.find(groep);
-        if (plaats == std::string::npos)
-            inhoud = groep + regel + inhoud;
-        else
-            inhoud.insert(plaats + groep.size(), regel);
-    }
+    const std::string groep = "[Gebruikersinstellingen]\n";
+    const std::size_t plaats = inhoud.find(groep); // the language goes into the user's group
+    if (eersteTaal >= 0 && inhoud.find("Encoding=") == std::string::npos)
+        inhoud.insert(plaats == std::string::npos ? 0 : plaats + groep.size(),
+                      (plaats == std::string::npos ? groep : "") + "Encoding=" + std::to_string(eersteTaal) + "\n");
     if (!inhoud.empty())
         std::ofstream(instellingenPad().ToStdString()) << inhoud;
 
@@ -181,10 +177,7 @@ std::unique_ptr<wxFileConfig> ProgrammaTest::leesInstellingen() const
 
 void ProgrammaTest::wachtOpVenster()
 {
-    while (app().geefVenster() != nullptr && venster().isBezig()) {
-        wxTheApp->ProcessPendingEvents();
-        wxTheApp->Yield(true);
-    }
+    wachtTot([this] { return app().geefVenster() == nullptr || !venster().isBezig(); }, "the window's workers");
 }
 
 void ProgrammaTest::verwerk()

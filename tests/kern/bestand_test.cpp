@@ -64,6 +64,9 @@ TEST_F(Bestand, ReplacesTheFileWholeOrNotAtAllKeepingItsPlaceLinksOwnerAndMode)
                   verwacht);
         ::unlink(d.c_str());
     }
+    std::ofstream(d) << "oud";
+    ::chmod(d.c_str(), 0444); // marked read-only: refused for root too
+    EXPECT_EQ(kern::schrijfTekstBestand(d, wxString("x"), &reden) ? "" : reden + leesBestand(d), "Permission deniedoud");
     ::mkfifo(boom.pad("fifo").c_str(), 0666);
     EXPECT_EQ(kern::schrijfTekstBestand(boom.map("fifo"), wxString("x"), &reden) ? "" : reden, "not a regular file");
 }

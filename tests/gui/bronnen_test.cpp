@@ -96,6 +96,11 @@ TEST_F(Bronnen, AboveTenFilesAddAsksAndKnownFilesAreReported)
     EXPECT_TRUE(heeftLog(wxLOG_Message, d + "/f03.c won't be added since it is already in your selection list."));
     EXPECT_EQ(wxString::Format("%zu %zu ", logMet(wxLOG_Message, d + "/").size(), logMet(wxLOG_Warning, "2 names were left out: ").size())
                   + status(), "10 1 " + totaal(1));
+    for (int i = 0; i < 20000; ++i) // more than one slice of the store's intake
+        std::ofstream(wxString::Format("%s/d/g%05d.c", thuis, i).utf8_string()) << "\n";
+    wxTEST_DIALOG(klikOp(v.FindWindow(wxID_ADD)), beantwoordVraag("20012 files were found and will be added to the selection "
+                  "list.\nDo you want to proceed?", "More than 10 files found", wxID_YES));
+    EXPECT_EQ(wxString::Format("%zu ", v.bronSelektie.aantal()) + status(), "20011 " + totaal(20000));
     v.PopStatusText(0); // one level down: neither an Add's line nor the welcome
     EXPECT_EQ(status(), onder);
 }

@@ -39,7 +39,8 @@ TEST_F(Controle, EnablingTheVerdictAMessageThatLeadsToItsLineAndCancelDuringALon
     const int regel = wxSplit(v.uitvoerTekst->GetValue(), '\n', 0).Index(doel) + 1;
     wxListCtrl& lijst = *d->geefMeldingLijst();
     ASSERT_EQ(lijst.GetItemCount(), 3); // the folded note, then the two errors
-    EXPECT_EQ(lijst.GetItemText(1, 1) + ":" + lijst.GetItemText(1, 2), wxString::Format("CMakeLists.txt:%d", regel));
+    EXPECT_EQ(lijst.GetItemText(1, 1) + ":" + lijst.GetItemText(1, 2) + " " + lijst.GetItemText(1, 3),
+              wxString::Format("CMakeLists.txt:%d Cannot find source file: %s/p/src/a.c", regel, thuis)); // without the search list
     wxRect rij;
     ASSERT_TRUE(lijst.GetItemRect(1, rij));
     klikOp(&lijst, wxEVT_LIST_ITEM_ACTIVATED, rij.GetPosition() + wxPoint(20, rij.height / 2), true);

@@ -13,11 +13,13 @@ TEST_F(Instellingen, ADamagedFileLoadsWhatItCanAndIsKept)
 {
     const wxString map = maakMap(wxString::FromUTF8("jos\xc3\xa9"));
     std::string kapot = "[Gebruikersinstellingen]\nEncoding=99999\n[Gebruikersinstellingen/Venster]\nGrootteY=50\n"
-                        "[Configuratie]\nVoegCBestandenToe=7\nDirPad=" + map.utf8_string() + "\nUitsluitTerm=x\xe9\n";
+                        "[Configuratie]\nVoegCBestandenToe=7\nProjektsoort=7\nDirPad=" + map.utf8_string() + "\nUitsluitTerm=x\xe9\n";
     for (int i = 0; i < 4000; ++i)
         kapot += "[Configuratie]\nUitsluitTerm=template\n";
     schrijfInstellingen(kapot);
+    verwachtAssert("nIndex < m_nCount"); // a kind out of range: the array's own check, once
     start();
+    EXPECT_EQ(aantalAsserts("nIndex < m_nCount"), 1);
     EXPECT_EQ(venster().vindBestandenInDirs->GetPath() + (venster().voegCBestandenToe.boolean() ? " C" : ""), map);
     const wxString p = instellingenPad();
     EXPECT_EQ(logMet(wxLOG_Warning, ""), std::vector<wxString>{"The settings file " + p + " could not be read completely;"

@@ -24,10 +24,10 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
     KlavermolVenster& v = venster();
     controleerIndeling(v.GetChildren().front());
     wxMenuBar* menu = v.GetMenuBar();
-    std::string vinkjes; // the file-type switches in the menu and as boxes, then F2
+    std::string vinkjes; // the file-type switches in the menu and as boxes, then F2 and the language chosen
     for (int id : {VoegCBestandenToeID, VoegCPPBestandenToeID, VoegHBestandenToeID, VoegSBestandenToeID})
         vinkjes += menu->IsChecked(id) || static_cast<wxCheckBox*>(v.FindWindow(id))->GetValue() ? '1' : '0';
-    EXPECT_EQ(vinkjes + (menu->IsChecked(AutoZetUitvoerDirID) ? '1' : '0'), "00001");
+    EXPECT_EQ(vinkjes + (menu->IsChecked(AutoZetUitvoerDirID) ? '1' : '0') + (app().isTaalGekozen() ? '1' : '0'), "000010");
     EXPECT_TRUE(wxFileName::DirName(v.vindBestandenInDirs->GetPath()).SameAs(wxFileName::DirName(thuis)));
     EXPECT_EQ(v.outputDirPicker->GetPath() + v.vindCMakeSubDir->GetPath() + v.vindCMakeIncludeDir->GetPath(), thuis + thuis + thuis);
     const auto label = [&](int id) { return menu->FindItem(id)->GetItemLabel() + "|"; };

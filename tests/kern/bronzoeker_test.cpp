@@ -29,9 +29,11 @@ TEST(BronVerzameling, UnopenableDirectoriesAndOtherModesChangeNothing)
         const bool verzameld = modus > 0 && kern::verzamelBestanden("/nergens", modus, c, gevonden);
         EXPECT_EQ(kern::onderzoekMap("/nergens", modus, geefFamilies("1111"), v) || verzameld ? "opened" : toon(v), "0101") << modus;
     }
+    kern::Voortgang voortgang; // the counts a progress dialog shows
     for (const auto& [modus, aan] : {std::pair{0, c}, {3, c}, {-1, c}, {1, kern::Families{}}, {1, c}})
-        EXPECT_TRUE(kern::verzamelBestanden(boom.map(), modus, aan, gevonden));
-    EXPECT_EQ(wxJoin(gevonden, '|', 0), "oud|" + boom.map("x.c"));
+        EXPECT_TRUE(kern::verzamelBestanden(boom.map(), modus, aan, gevonden, nullptr, &voortgang));
+    EXPECT_EQ(wxJoin(gevonden, '|', 0) + wxString::Format(" %zu %zu", voortgang.mappen.load(), voortgang.bestanden.load()),
+              "oud|" + boom.map("x.c") + " 1 1");
 }
 
 // The probe as the Add command's owner describes it, step by step, on the toolkit's own searches.

@@ -53,6 +53,7 @@ TEST(Bronlijst, GroupsPerDirectoryWithHeadersAndTheOutputDirectory)
         {"/", {"/a.c", "/b.h"}, ".", "#list(APPEND SRCS a.c )#."}, // paths the toolkit splits: "/", "//", ".h" (a source)
         {"/p", {"/p//s/.h", "/p/s/b.c", "/p/t//c.h"}, "s|t", p0 + ".h b.c )#${SrcPath1}"},
         {"/p/~q", {"/p/~q/i/.h", "/p/~q/i/a.h"}, "i", p0 + ".h )#${SrcPath0}"},
+        {"/p", {"/p/a$b.c", "/p/c.c"}, ".", "#list(APPEND SRCS \"a\\$b.c\" c.c )#"}, // a lone "$" is quoted too
         {"/p", {a69, "/p/d/b.c", "/p/d/c.c"}, "d", p0 + a69.substr(5) + " b.c c.c \n\t)#"}, // break past 80 since start/tab
         {"/p", {a70, "/p/d/b.c", "/p/d/c.c"}, "d", p0 + a70.substr(5) + " b.c \n\tc.c )#"},
         {"/p", {a80, "/p/d/b.c", c78, "/p/d/d.c", "/p/d/e.c"}, "d", p0 + a80.substr(5) + " b.c \n\t" + c78.substr(5) + " d.c e.c \n\t)#"},

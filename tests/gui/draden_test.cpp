@@ -63,7 +63,7 @@ TEST_F(Draden, TheSourceListActsOnTheStoreAndACancelledAddLeavesIt)
         muisOp(lijst, wxPoint(vakje ? r.x + r.height / 2 + 2 : r.GetRight() - 10, r.y + r.height / 2), dubbel);
     };
     opRij(1, true), wordt("1011"); // y.h's box
-    opRij(1, false), wxUIActionSimulator().Char(' '), wordt("1111"); // the space bar on the current row: y.h
+    opRij(1, false), wxUIActionSimulator().Char('x'), wxUIActionSimulator().Char(' '), wordt("1111"); // only the space bar flips: y.h
     opRij(0, false, true), wordt("0011"); // the double-clicked entry's directory flips, each entry on its own
     for (const char* verwacht : {"1111", "0000"})
         klikOp(v.selekteerAllesKnop, wxEVT_TOGGLEBUTTON), wordt(verwacht);

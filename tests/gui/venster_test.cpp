@@ -61,7 +61,7 @@ TEST_F(Venster, FirstStartShowsTheDefaultsAndTheTexts)
 // A pre-written store is restored into every control and written back as it was at exit.
 TEST_F(Venster, TheStoreIsRestoredIntoEveryControlAndWrittenBackInFull)
 {
-    const wxString bron = maakMap("bron"), uit = maakMap("uit");
+    const wxString bron = wxPathOnly(maakBestand("bron/a.c")), uit = maakMap("uit");
     const std::pair<const char*, wxString> store[] = {
         {"DirPad", bron}, {"UitvoerDirPad", uit}, {"Projektnaam", "Motor met spatie"}, {"Projektsoort", "2"},
         {"Projekttype", "1"}, {"Biebtype", "2"}, {"BestandNaamTekst", "Motor.cmake"}, {"VoegToeMethode", "2"},
@@ -75,6 +75,7 @@ TEST_F(Venster, TheStoreIsRestoredIntoEveryControlAndWrittenBackInFull)
     schrijfInstellingen(tekst);
     start();
     KlavermolVenster& v = venster();
+    EXPECT_TRUE(aan(wxID_ADD)); // the start-up probe found bron/a.c
     wxMenuBar* m = v.GetMenuBar(); // the output directory as stored: the automatic one is off
     EXPECT_EQ(wxString::Format("%s|%s|%s|%d%d%d%d|%s|%s|%d%d%d%d%d|%s|%s|%zu|%s", v.vindBestandenInDirs->GetPath(), v.outputDirPicker->GetPath(),
                                v.projektLibIncludeNaam->GetValue(), v.uitvoerSoortKeuze->GetSelection(), v.cmakeProjektKeuze->GetSelection(),

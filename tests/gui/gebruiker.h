@@ -7,10 +7,8 @@
 
 #include <functional>
 
-// Shows the dialog (the toolkit fills it from its validators; its layout is
-// checked), lets
-// `handeling` work it and presses `knop`; gives `knop` if that closed the
-// dialog, wxID_NONE if it is still open.
+// Shows the dialog (filled from its validators, its layout checked), lets `handeling`
+// work it and presses `knop`; gives `knop` if that closed the dialog, else wxID_NONE.
 inline int bedien(wxDialog& dlg, int knop, const std::function<void()>& handeling)
 {
     dlg.Show();

@@ -49,8 +49,7 @@ protected:
     }
 };
 
-// Any modal dialog that a test did not announce with wxTEST_DIALOG is a
-// failure, and is closed at once instead of waiting for a user.
+// A modal dialog no wxTEST_DIALOG announced fails the test and is closed at once.
 class OnverwachtDialoogHaak : public wxModalDialogHook
 {
 protected:
@@ -202,9 +201,7 @@ void ProgrammaTest::opdracht(wxEventType soort, int id, int waarde)
 bool ProgrammaTest::aan(int id)
 {
     venster().UpdateWindowUI(wxUPDATE_UI_RECURSE);
-    wxWindow* w = venster().FindWindow(id);
-    EXPECT_NE(w, nullptr) << id;
-    return w != nullptr && w->IsEnabled();
+    return venster().FindWindow(id)->IsEnabled();
 }
 
 void ProgrammaTest::kiesZoekMap(const wxString& pad)
@@ -218,8 +215,7 @@ void ProgrammaTest::kiesZoekMap(const wxString& pad)
 void ProgrammaTest::wachtTot(const std::function<bool()>& klaar, const char* wat)
 {
     const wxLongLong einde = wxGetLocalTimeMillis() + 30000;
-    // wakes the loop now and then for what changes without an event of its
-    // own (a worker's flag, the clock)
+    // wakes the loop for what changes without an event (a worker's flag, the clock)
     const guint wekker = g_timeout_add(20, [](gpointer) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr);
     wxTheApp->ProcessPendingEvents();
     while (!klaar()) {
@@ -235,16 +231,14 @@ void ProgrammaTest::wachtTot(const std::function<bool()>& klaar, const char* wat
 
 void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort, wxPoint punt, bool dubbel)
 {
-    // The splash screen stays on top for its two seconds; real input is meant
-    // for the windows under it, so it goes first, also from the display.
+    // The splash screen stays on top for two seconds: it goes first, also from the display.
     if (wxSplashScreen* splash = app().geefSplash()) {
         splash->Destroy();
         wachtTot([this] { return app().geefSplash() == nullptr; }, "the splash screen to go");
     }
     auto* top = static_cast<wxTopLevelWindow*>(wxGetTopLevelParent(w));
     top->Raise();
-    // Shown, enabled, and its window framed, focused and placed by the
-    // window manager where the toolkit thinks it is.
+    // Shown, enabled, its window framed, focused and placed where the toolkit thinks.
     wachtTot([&] {
         GdkRectangle r;
         gdk_window_get_frame_extents(gtk_widget_get_window(top->GetHandle()), &r);

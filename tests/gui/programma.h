@@ -55,19 +55,16 @@ protected:
     // Runs the event loop until `klaar` holds; waits for events, not for
     // time. What never comes fails the test after half a minute, naming `wat`.
     void wachtTot(const std::function<bool()>& klaar, const char* wat = "a condition");
-    // Real input through the display: a mouse click (or double click) on
-    // `punt` of `w`, by default its middle, once it can take one (returns
-    // once `w` has its event of type `soort`), and typing `tekst` into a
-    // text field in place of what it holds, closed with Enter.
+    // Real input: a click (or double click) on `punt` of `w` (its middle) once it can take
+    // one, until `w` has its event `soort`; typing `tekst` over a field's text, then Enter.
     void klikOp(wxWindow* w, wxEventType soort = wxEVT_BUTTON, wxPoint punt = wxDefaultPosition, bool dubbel = false);
     void typIn(wxTextCtrl* veld, const wxString& tekst);
     // Moves a choice to row `rij` with the arrow keys, as a keyboard user does.
     void kiesRij(wxChoice* keuze, int rij);
 
 public:
-    // Nothing hidden, nothing on top of another: below `ouder` each shown
-    // control has a size, lies inside its parent and apart from its siblings
-    // (a static box frames its siblings; top-level windows are left out).
+    // Nothing hidden or on top of another: below `ouder` each shown control has a size and
+    // lies inside its parent, apart from its siblings (a static box frames its siblings).
     static void controleerIndeling(wxWindow* ouder);
 
 protected:
@@ -97,9 +94,8 @@ protected:
 private:
     bool eigenThuis = true;
     bool gestart = false;
-    // The loop every wait of the test runs in, as the program's main loop
-    // would be: without one, each yield and each progress dialog makes a
-    // passing loop of its own, which can go while it still runs.
+    // The loop every wait runs in, as the main loop would be: without it each yield and
+    // progress dialog makes a passing loop of its own, which can go while it still runs.
     std::unique_ptr<wxEventLoopBase> lus;
     int eersteTaal = -1;
     std::string instellingen;

@@ -49,7 +49,8 @@ TEST_P(StartEnEinde, StartAndTheEndWrite)
 INSTANTIATE_TEST_SUITE_P(Start, StartEnEinde, ::testing::Values(
     StartRegel{"NoUsableSize", "[Gebruikersinstellingen/Venster]\nGrootteX=-99999\nGrootteY=50\n", wxLANGUAGE_ENGLISH,
                true, nullptr, "Klavermol is starting!"}, // nullptr: the documents directory
-    StartRegel{"StoredValues", "[Gebruikersinstellingen]\ntoonHulptoolTips=0\n[Operationeel]\nLaatsteDataPad=$HOME/"
+    StartRegel{"StoredValues", "[Gebruikersinstellingen]\ntoonHulptoolTips=0\n[Gebruikersinstellingen/Venster]\nGrootteX=1300\n"
+               "GrootteY=0\n[Operationeel]\nLaatsteDataPad=$HOME/"
                "data/${SRCS}\n", wxLANGUAGE_DUTCH, false, "$HOME/data/${SRCS}", "Klavermol wordt gestart!"}),
     [](const ::testing::TestParamInfo<StartRegel>& i) { return std::string(i.param.naam); });
 

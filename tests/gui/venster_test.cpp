@@ -159,7 +159,10 @@ TEST_F(Venster, EnablingFollowsTheKindTheListsTheProbeAndTheHistories)
 // Forward with no location ends the program on its out-of-range error, but the settings are on disk first.
 TEST_F(Venster, ForwardIntoNothingWritesTheSettingsBeforeTheProgramEnds)
 {
+    schrijfInstellingen("[Configuratie]\nDirPad=/nergens\n");
+    verwachtAssert("true == mag"); // the start-up probe cannot open the stored location
     start();
+    EXPECT_EQ(aantalAsserts("true == mag"), 1);
     const wxString d = maakMap("d");
     venster().vindBestandenInDirs->SetPath(d);
     verwachtAssert("\"IsInsideRun()\""); // the toolkit then leaves the main loop, which the test stands in for

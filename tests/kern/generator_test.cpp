@@ -120,13 +120,13 @@ TEST(Generator, TheProjectTexts)
                   kern::geefStandaardSjablonen().projektKommando + "\ntarget_link_libraries(${ProjectName} een )\n\n" + slot);
     // Crosscompile: rows keep their numbers, take ${SrcPath<i>} only on an exact match, else ${PROJECT_SOURCE_DIR}.
     in = maakInvoer("/p", {"/p/src/a.c"}), in.projektType = 1;
-    in.includes = {{"/p/cmake/a.cmake", false}, {"src/eigen.cmake", true}, {"/p/src/abs.cmake", true}, {"/p/b.cmake", true}};
+    in.includes = {{"src/eigen.cmake", true}, {"/p/cmake/a.cmake", false}, {"/p/src/abs.cmake", true}, {"/p/b.cmake", true}};
     in.biebs = {{"src", "een", true}, {"/p/lib1", "x", false}, {"/q/lib2", "twee", true}, {"/p", "drie", true}};
     EXPECT_EQ(geef(in, true).tekst,
               begin + "## Cross-compilation requires a rewrite of several CMake compilation directive.\n"
                   "## Please include a cross-compile configuration file here (using include or directly).\n\n"
                   "set(SRCS )\nset(SrcPath0 ${CMAKE_CURRENT_SOURCE_DIR}/src)\n" + geenIncludeMappen +
-                  "set(Include1Path ${SrcPath0})\ninclude(${Include1Path}/eigen.cmake)\n\n"
+                  "set(Include0Path ${SrcPath0})\ninclude(${Include0Path}/eigen.cmake)\n\n"
                   "set(Include2Path ${PROJECT_SOURCE_DIR}/src)\ninclude(${Include2Path}/abs.cmake)\n\n"
                   "set(Include3Path ${PROJECT_SOURCE_DIR}/.)\ninclude(${Include3Path}/b.cmake)\n\n"
                   "set(SRCS0Path ${SrcPath0})\nset(SRCS0 a.c )\n" + foreachBlok(0) +

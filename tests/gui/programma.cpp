@@ -4,7 +4,6 @@
 #include <wx/apptrait.h>
 #include <wx/choice.h>
 #include <wx/bookctrl.h>
-#include <wx/statbox.h>
 #include <wx/statusbr.h>
 #include <wx/textctrl.h>
 #include <wx/filename.h>
@@ -299,7 +298,7 @@ void ProgrammaTest::controleerIndeling(wxWindow* ouder)
 {
     std::vector<wxWindow*> kinderen;
     for (wxWindow* kind : ouder->GetChildren())
-        if (kind->IsShown() && !kind->IsTopLevel() && !wxDynamicCast(kind, wxStaticBox))
+        if (kind->IsShown() && !kind->IsTopLevel())
             kinderen.push_back(kind);
     // a book places its pages by its own measure
     const wxRect binnen = wxDynamicCast(ouder, wxBookCtrlBase) ? wxRect(wxPoint(-9999, -9999), wxSize(19999, 19999))

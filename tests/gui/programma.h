@@ -64,7 +64,7 @@ protected:
 
 public:
     // Nothing hidden or on top of another: below `ouder` each shown control has a size and
-    // lies inside its parent, apart from its siblings (a static box frames its siblings).
+    // lies inside its parent, apart from its siblings.
     static void controleerIndeling(wxWindow* ouder);
 
 protected:

@@ -49,9 +49,9 @@ start_in_taal() {
     printf '[Gebruikersinstellingen]\nEncoding=%s\n' "$taal" > "$thuis/.Klavermol"
     HOME="$thuis" "$prefix/bin/klavermol" > "$thuis/uitvoer.txt" 2>&1 &
     local pid=$! venster="" vensters=""
-    # Up to 10 s for the main window (titled, unlike the splash screen) to
-    # stand alone, once the splash screen has gone.
-    for _ in $(seq 100); do
+    # Up to a minute (a loaded machine) for the main window (titled, unlike
+    # the splash screen) to stand alone, once the splash screen has gone.
+    for _ in $(seq 600); do
         venster=$(xdotool search --onlyvisible --pid "$pid" --name '^Klavermol' 2>/dev/null | head -n 1 || true)
         vensters=$(xdotool search --onlyvisible --pid "$pid" 2>/dev/null || true)
         [ -n "$venster" ] && [ "$vensters" = "$venster" ] && break
@@ -64,7 +64,7 @@ start_in_taal() {
         import -window root "$beeld" && echo "screenshot: $beeld"
     fi
     xdotool windowfocus --sync "$venster" key ctrl+q 2>/dev/null || true
-    for _ in $(seq 50); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
+    for _ in $(seq 300); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
     if kill -0 "$pid" 2>/dev/null; then echo "FAILED: Ctrl+Q did not close the program"; fout=1; kill "$pid"; fi
     wait "$pid" 2>/dev/null || true
     controleer grep -q "^Projektnaam=$naam\$" "$thuis/.Klavermol"

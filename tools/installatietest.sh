@@ -63,8 +63,13 @@ start_in_taal() {
     if command -v import >/dev/null; then
         import -window root "$beeld" && echo "screenshot: $beeld"
     fi
-    xdotool windowfocus --sync "$venster" key ctrl+q 2>/dev/null || true
-    for _ in $(seq 300); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
+    # Ctrl+Q once a second until the program has gone (a key sent while the
+    # window manager still moves the focus can be lost), for half a minute.
+    for _ in $(seq 30); do
+        kill -0 "$pid" 2>/dev/null || break
+        xdotool windowfocus --sync "$venster" key ctrl+q 2>/dev/null || true
+        for _ in $(seq 10); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
+    done
     if kill -0 "$pid" 2>/dev/null; then echo "FAILED: Ctrl+Q did not close the program"; fout=1; kill "$pid"; fi
     wait "$pid" 2>/dev/null || true
     controleer grep -q "^Projektnaam=$naam\$" "$thuis/.Klavermol"

@@ -228,6 +228,13 @@ void ProgrammaTest::wachtTot(const std::function<bool()>& klaar, const char* wat
     g_source_remove(wekker);
 }
 
+bool ProgrammaTest::isGeplaatst(wxWindow* top)
+{
+    GdkRectangle r;
+    gdk_window_get_frame_extents(gtk_widget_get_window(top->GetHandle()), &r);
+    return top->IsShownOnScreen() && wxPoint(r.x, r.y) == top->GetPosition();
+}
+
 void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort, wxPoint punt, bool dubbel)
 {
     // The splash screen stays on top for two seconds: it goes first, also from the display.
@@ -237,12 +244,7 @@ void ProgrammaTest::klikOp(wxWindow* w, wxEventType soort, wxPoint punt, bool du
     }
     auto* top = static_cast<wxTopLevelWindow*>(wxGetTopLevelParent(w));
     top->Raise();
-    // Shown, enabled, its window framed, focused and placed where the toolkit thinks.
-    wachtTot([&] {
-        GdkRectangle r;
-        gdk_window_get_frame_extents(gtk_widget_get_window(top->GetHandle()), &r);
-        return w->IsShownOnScreen() && w->IsEnabled() && top->IsActive() && wxPoint(r.x, r.y) == top->GetPosition();
-    }, "a control to click");
+    wachtTot([&] { return w->IsShownOnScreen() && w->IsEnabled() && top->IsActive() && isGeplaatst(top); }, "a control to click");
     if (punt == wxDefaultPosition)
         punt = wxPoint(w->GetClientSize().x / 2, w->GetClientSize().y / 2);
     bool gekomen = false;
@@ -300,9 +302,8 @@ void ProgrammaTest::controleerIndeling(wxWindow* ouder)
     for (wxWindow* kind : ouder->GetChildren())
         if (kind->IsShown() && !kind->IsTopLevel())
             kinderen.push_back(kind);
-    // a book places its pages by its own measure
-    const wxRect binnen = wxDynamicCast(ouder, wxBookCtrlBase) ? wxRect(wxPoint(-9999, -9999), wxSize(19999, 19999))
-                                                               : wxRect(ouder->GetClientSize());
+    const wxRect binnen = wxDynamicCast(ouder, wxBookCtrlBase) // a book places its pages itself
+        ? wxRect(wxPoint(-9999, -9999), wxSize(19999, 19999)) : wxRect(ouder->GetClientSize());
     for (auto kind = kinderen.begin(); kind != kinderen.end(); ++kind) {
         const wxRect r = (*kind)->GetRect();
         EXPECT_TRUE(!r.IsEmpty() && binnen.Contains(r)) << (*kind)->GetName() << " in " << ouder->GetName();

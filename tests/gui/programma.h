@@ -66,6 +66,7 @@ public:
     // Nothing hidden or on top of another: below `ouder` each shown control has a size and
     // lies inside its parent, apart from its siblings.
     static void controleerIndeling(wxWindow* ouder);
+    static bool isGeplaatst(wxWindow* top); // framed and placed where the toolkit thinks
 
 protected:
     // A directory, or a one-line file with its directories, below the home.

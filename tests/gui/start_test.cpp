@@ -18,6 +18,7 @@ TEST_P(StartEnEinde, StartAndTheEndWrite)
     schrijfInstellingen(r.instellingen);
     zetTaal(r.taal);
     start();
+    wachtTot([&] { return isGeplaatst(&venster()); }, "the window placed by the window manager");
     const wxString dataPad = r.dataPad ? wxString(r.dataPad) : wxStandardPaths::Get().GetDocumentsDir();
     const wxSize inhoud = venster().GetSizer()->GetMinSize();
     const wxSize grootte(std::max(800, inhoud.x), std::max(600, inhoud.y));

@@ -111,21 +111,6 @@ void maakUitvoer(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit
     naarWx(maakUitvoerUtf8, invoer, werk, uit);
 }
 
-void maakProjekt(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
-{
-    naarWx(maakProjektUtf8, invoer, werk, uit);
-}
-
-void maakLib(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
-{
-    naarWx(maakLibUtf8, invoer, werk, uit);
-}
-
-void maakInclude(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
-{
-    naarWx(maakIncludeUtf8, invoer, werk, uit);
-}
-
 void schrijfProjektLibUitvoer(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit)
 {
     naarWx(schrijfBronLijst, invoer, werk, uit);

@@ -63,9 +63,6 @@ struct Werklijsten
 
 // Appends the text of the chosen kind to `uit`; any other kind writes nothing.
 void maakUitvoer(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit);
-void maakProjekt(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit);
-void maakLib(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit);
-void maakInclude(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit);
 
 // The source listing all three kinds share, after their "set(SRCS )" line.
 void schrijfProjektLibUitvoer(const GeneratorInvoer& invoer, Werklijsten& werk, wxString& uit);

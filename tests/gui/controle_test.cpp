@@ -14,7 +14,6 @@
 
 using Controle = ProgrammaTest;
 
-// One test for all mouse work: two at once would click into each other's windows.
 TEST_F(Controle, EnablingTheVerdictAMessageThatLeadsToItsLineAndCancelDuringALongBuild)
 {
     start();

@@ -1,5 +1,6 @@
 // The output side of the main window: kind and names, the lists, saving, and Execute against klavermol-cli.
 #include "programma.h"
+#include "storing.h"
 
 #include <wx/checklst.h>
 #include <wx/choice.h>
@@ -14,7 +15,6 @@
 
 #include <cstdio>
 #include <fstream>
-#include <iterator>
 #include <random>
 
 namespace {
@@ -29,11 +29,6 @@ Antwoord<wxFileDialog> bewaarAls(const wxString& pad, const wxString& map, const
         dlg.SetPath(pad);
         return wxID_OK;
     });
-}
-
-std::string leesBytes(const wxString& pad)
-{
-    return std::string(std::istreambuf_iterator<char>(std::ifstream(pad.ToStdString(), std::ios::binary).rdbuf()), {});
 }
 
 // What klavermol-cli prints for these arguments.
@@ -73,20 +68,20 @@ TEST_F(Uitvoer, TheFileNameFollowsTheKindAndTheNameAndSaveProposesIt)
     }
     v.zetUitvoer("set(Naam Caf\xC3\xA9)\n");
     wxTEST_DIALOG(klik(wxID_SAVE), bewaarAls(map + "/CMakeLists.txt", map, "CMakeLists.txt"));
-    EXPECT_EQ(leesBytes(map + "/CMakeLists.txt"), "set(Naam Caf\xC3\xA9)\n");
+    EXPECT_EQ(leesBestand((map + "/CMakeLists.txt").utf8_string()), "set(Naam Caf\xC3\xA9)\n");
     v.zetUitvoer("x");
     kiesSoort(2);
     v.cmakeProjektKeuze->SetSelection(1);
     wxTEST_DIALOG(klik(wxID_SAVE), bewaarAls(doel, map, "engine.cmake", "TXT files (*.txt)|*.txt|CMake files (*.cmake)|*.cmake"));
     v.cmakeProjektKeuze->SetSelection(0);
     wxTEST_DIALOG(klik(wxID_SAVE), bewaarAls(doel, map, "engine.cmake"));
-    EXPECT_EQ(leesBytes(doel), "x");
+    EXPECT_EQ(leesBestand(doel.utf8_string()), "x");
     v.zetUitvoer("y");
     wxTEST_DIALOG(klik(wxID_SAVE), bewaarAls(map + "/niet/x.cmake", map, "engine.cmake"));
     EXPECT_EQ(logMet(wxLOG_Error, ""), std::vector<wxString>{"Failed to open output file " + map
                                                              + "/niet/x.cmake for writing to.\nNo such file or directory"});
     wxTEST_DIALOG(klik(wxID_SAVE), wxExpectModal<wxFileDialog>("", wxID_CANCEL));
-    EXPECT_EQ(v.uitvoerTekst->GetValue() + "|" + leesBytes(doel), "y|x");
+    EXPECT_EQ(v.uitvoerTekst->GetValue() + "|" + leesBestand(doel.utf8_string()), "y|x");
 }
 
 // A sub-directory's CMakeLists.txt and a CMake include file are added once; what cannot be added is said.
